@@ -1,0 +1,3 @@
+#include "PvInitializerAbstract.h"
+
+PvInitializerAbstract::~PvInitializerAbstract() = default;

@@ -1,0 +1,18 @@
+#include "PvBarcodeDefinitionList.h"
+
+#include "PvXMLParser.h"
+
+PvBarcodeDefinitionList PvBarcodeDefinitionList::createFromProductsXML(const QDomElement& barcodes, PvDistanceUnit unit)
+{
+    PvBarcodeDefinitionList list;
+    const QString tag = QStringLiteral("barcode");
+    for (QDomElement b = barcodes.firstChildElement(tag); !b.isNull(); b = b.nextSiblingElement(tag)) {
+        list.m_barcodes.append({ PvXMLParser::attribute(b, QStringLiteral("type"), QString(), true),
+                                 PvXMLParser::intAttribute(b, QStringLiteral("page"), 0),
+                                 PvXMLParser::readDistance(b, QStringLiteral("x"), 0.0, unit),
+                                 PvXMLParser::readDistance(b, QStringLiteral("y"), 0.0, unit),
+                                 PvXMLParser::readDistance(b, QStringLiteral("width"), 0.0, unit),
+                                 PvXMLParser::readDistance(b, QStringLiteral("height"), 0.0, unit) });
+    }
+    return list;
+}

@@ -1,0 +1,22 @@
+#include "PvFotoPaperType.h"
+
+PvFotoPaperType::PvFotoPaperType(PvFotoPaperTypeEnum value) noexcept
+    : PvEnumWrapper(value)
+{
+}
+
+PvFotoPaperType::PvFotoPaperType(const QString& text)
+{
+    setFromText(text);
+}
+
+void PvFotoPaperType::fillTable(Table* table) const
+{
+    table->insertAll({
+        { "none", PvFotoPaperTypeNone },
+        { "glossy", PvFotoPaperTypeGlossy },
+        { "matt", PvFotoPaperTypeMatt },
+        { "silk", PvFotoPaperTypeSilk },
+        { "pearl", PvFotoPaperTypePearl },
+    });
+}

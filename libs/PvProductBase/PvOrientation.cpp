@@ -1,0 +1,20 @@
+#include "PvOrientation.h"
+
+PvOrientation::PvOrientation(PvOrientationEnum value) noexcept
+    : PvEnumWrapper(value)
+{
+}
+
+PvOrientation::PvOrientation(const QString& text)
+{
+    setFromText(text);
+}
+
+void PvOrientation::fillTable(Table* table) const
+{
+    table->insertAll({
+        { "portrait", PvOrientationPortrait },
+        { "landscape", PvOrientationLandscape },
+        { "quadratic", PvOrientationQuadratic },
+    });
+}

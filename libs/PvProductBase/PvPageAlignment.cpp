@@ -1,0 +1,24 @@
+#include "PvPageAlignment.h"
+
+PvPageAlignment::PvPageAlignment(PvPageAlignmentEnum value) noexcept
+    : PvEnumWrapper(value)
+{
+}
+
+PvPageAlignment::PvPageAlignment(const QString& text)
+{
+    setFromText(text);
+}
+
+void PvPageAlignment::fillTable(Table* table) const
+{
+    table->insertAll({
+        { "left", PvPageAlignmentLeft },
+        { "right", PvPageAlignmentRight },
+        { "center", PvPageAlignmentCenter },
+        { "spread", PvPageAlignmentSpread },
+        { "top", PvPageAlignmentTop },
+        { "bottom", PvPageAlignmentBottom },
+        { "middle", PvPageAlignmentMiddle },
+    });
+}

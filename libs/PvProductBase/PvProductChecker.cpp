@@ -1,0 +1,3 @@
+#include "PvProductChecker.h"
+
+PvProductChecker::~PvProductChecker() = default;

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "PvProductType.h"
+
+#include <QList>
+
+using PvProductTypeList = QList<PvProductType>;

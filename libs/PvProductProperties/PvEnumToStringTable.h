@@ -1,0 +1,104 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <initializer_list>
+#include <optional>
+#include <utility>
+#include <type_traits>
+
+// Qt 6.4 hashes enumerations only through their underlying type.
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
+template <typename E, std::enable_if_t<std::is_enum_v<E>, bool> = true>
+inline size_t qHash(E e, size_t seed = 0) noexcept
+{
+    return qHash(static_cast<std::underlying_type_t<E>>(e), seed);
+}
+#endif
+
+/*!
+ * The single flag bits of an enumeration value, lowest first. The loop runs while the rest,
+ * read as a signed number of the enumeration's width, is positive: a value with the top bit
+ * set is negative and so yields no bits at all. Callers rely on that.
+ */
+template <typename T>
+QList<T> pvSplitEnumToBits(T value)
+{
+    using Unsigned = std::make_unsigned_t<std::underlying_type_t<T>>;
+    using Signed = std::make_signed_t<Unsigned>;
+    QList<T> bits;
+    Unsigned remaining = static_cast<Unsigned>(value);
+    for (Unsigned bit = 1; static_cast<Signed>(remaining) > 0; bit <<= 1) {
+        if (remaining & bit) {
+            bits.append(static_cast<T>(bit));
+            remaining &= ~bit;
+        }
+    }
+    return bits;
+}
+
+/*!
+ * The texts of one enumeration: built once per enumeration by its wrapper's fillTable() and
+ * shared for the life of the process. Decoding ignores case and surrounding blanks; encoding
+ * gives the first text inserted for a value.
+ */
+template <typename T>
+class PvEnumToStringTable
+{
+public:
+    using Underlying = std::underlying_type_t<T>;
+
+    void insert(const QString& text, T value)
+    {
+        stringToEnum.insert(text.toLower(), value);
+        if (!enumToString.contains(value))
+            enumToString.insert(value, text);
+    }
+
+    //! Inserts the rows in order; fillTable() implementations are lists of these.
+    void insertAll(std::initializer_list<std::pair<const char*, T>> rows)
+    {
+        for (const auto& [text, value] : rows)
+            insert(QString::fromUtf8(text), value);
+    }
+
+    [[nodiscard]] std::optional<T> decode(const QString& text) const
+    {
+        const auto it = stringToEnum.constFind(text.trimmed().toLower());
+        if (it == stringToEnum.cend())
+            return std::nullopt;
+        return *it;
+    }
+
+    // Empty pieces are kept: they decode to unknownValue like any unknown text.
+    [[nodiscard]] T decodeCSV(const QString& text) const
+    {
+        Underlying result = 0;
+        const QStringList pieces = text.split(QLatin1Char(','));
+        for (const QString& piece : pieces)
+            result |= static_cast<Underlying>(decode(piece).value_or(unknownValue));
+        return static_cast<T>(result);
+    }
+
+    [[nodiscard]] QStringList encodeAsList(T value) const
+    {
+        QStringList texts;
+        for (T bit : pvSplitEnumToBits(value))
+            texts.append(enumToString.value(bit, unknownString));
+        return texts;
+    }
+
+    [[nodiscard]] QString encodeCSV(T value) const
+    {
+        const QStringList texts = encodeAsList(value);
+        return texts.isEmpty() ? unknownString : texts.join(QStringLiteral(", "));
+    }
+
+    QHash<QString, T> stringToEnum;
+    QHash<T, QString> enumToString;
+    QString unknownString;
+    T unknownValue = static_cast<T>(0);
+};

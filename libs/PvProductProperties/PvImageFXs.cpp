@@ -1,0 +1,22 @@
+#include "PvImageFXs.h"
+
+PvImageFXs::PvImageFXs(PvImageFXsEnum value) noexcept
+    : PvEnumWrapper(value)
+{
+}
+
+PvImageFXs::PvImageFXs(const QString& text)
+{
+    setFromText(text);
+}
+
+void PvImageFXs::fillTable(Table* table) const
+{
+    table->insertAll({
+        { "grayscale", PvImageFXsGrayscale },
+        { "gray", PvImageFXsGrayscale },
+        { "none", PvImageFXsNone },
+        { "", PvImageFXsNone },
+        { "PRESERVE_ALPHA_CHANNEL", PvImageFXsPreserveAlphaChannel },
+    });
+}

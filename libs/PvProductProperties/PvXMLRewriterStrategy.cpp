@@ -1,0 +1,23 @@
+#include "PvXMLRewriterStrategy.h"
+
+PvXMLRewriterStrategy::PvXMLRewriterStrategy(PvXMLRewriterStrategyEnum value) noexcept
+    : PvEnumWrapper(value)
+{
+}
+
+PvXMLRewriterStrategy::PvXMLRewriterStrategy(const QString& text)
+{
+    setFromText(text);
+}
+
+void PvXMLRewriterStrategy::fillTable(Table* table) const
+{
+    table->insertAll({
+        { "RewriteOneToTwoSides", PvRewriteOneToTwoSides },
+        { "RewriteOneToTwoPages", PvRewriteOneToTwoPages },
+        { "RewriteEasyToVario", PvRewriteEasyToVario },
+        { "RewriteSplitInTwoProjects", PvRewriteSplitInTwoProjects },
+        { "RewriteOneSidedEasyToTwoSidedVario", PvRewriteOneSidedEasyToTwoSidedVario },
+        { "RewriteOneSidedVario10ToTwoSidedVario5", PvRewriteOneSidedVario10ToTwoSidedVario5 },
+    });
+}

@@ -1,0 +1,118 @@
+#include "PvXMLParser.h"
+
+#include <climits>
+
+namespace {
+std::optional<double> doubleOf(const QDomElement& element, const QString& name)
+{
+    if (!element.hasAttribute(name))
+        return std::nullopt;
+    bool ok = false;
+    const double value = element.attribute(name).trimmed().toDouble(&ok);
+    return ok ? std::optional<double>(value) : std::nullopt;
+}
+
+bool hasAnyAttribute(const QDomElement& element, std::initializer_list<const char*> names)
+{
+    for (const char* name : names) {
+        if (element.hasAttribute(QLatin1String(name)))
+            return true;
+    }
+    return false;
+}
+
+double coordinate(const QDomElement& element, const char* name)
+{
+    return doubleOf(element, QLatin1String(name)).value_or(0.0);
+}
+
+int intCoordinate(const QDomElement& element, const char* name)
+{
+    return qRound(coordinate(element, name));
+}
+}
+
+QString PvXMLParser::attribute(const QDomElement& element, const QString& name, const QString& defaultValue, bool trim)
+{
+    if (!element.hasAttribute(name))
+        return defaultValue;
+    const QString text = element.attribute(name);
+    return trim ? text.trimmed() : text;
+}
+
+bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name, bool defaultValue)
+{
+    if (!element.hasAttribute(name))
+        return defaultValue;
+    const QString text = element.attribute(name).trimmed().toLower();
+    if (text == QLatin1String("true") || text == QLatin1String("1") || text == QLatin1String("yes"))
+        return true;
+    if (text == QLatin1String("false") || text == QLatin1String("0") || text == QLatin1String("no"))
+        return false;
+    return defaultValue;
+}
+
+int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, int defaultValue)
+{
+    if (!element.hasAttribute(name))
+        return defaultValue;
+    bool ok = false;
+    const int value = element.attribute(name).trimmed().toInt(&ok, 10);
+    return ok ? value : defaultValue;
+}
+
+double PvXMLParser::doubleAttribute(const QDomElement& element, const QString& name, double defaultValue)
+{
+    return doubleOf(element, name).value_or(defaultValue);
+}
+
+int PvXMLParser::readAngle(const QDomElement& element, const QString& name, int defaultDegrees)
+{
+    const std::optional<double> degrees = doubleOf(element, name);
+    if (!degrees || *degrees > INT_MAX || *degrees < INT_MIN)
+        return defaultDegrees;
+    return qRound(*degrees);
+}
+
+PvDistance PvXMLParser::readDistance(const QDomElement& element, const QString& name, double defaultValue, PvDistanceUnit unit)
+{
+    return PvDistance(doubleOf(element, name).value_or(defaultValue), unit);
+}
+
+QRect PvXMLParser::readRect(const QDomElement& element, const QRect& defaultValue)
+{
+    if (!hasAnyAttribute(element, { "x", "y", "width", "height" }))
+        return defaultValue;
+    return QRect(intCoordinate(element, "x"), intCoordinate(element, "y"), intCoordinate(element, "width"), intCoordinate(element, "height"));
+}
+
+QRectF PvXMLParser::readRectF(const QDomElement& element, const QRectF& defaultValue)
+{
+    if (!hasAnyAttribute(element, { "x", "y", "width", "height" }))
+        return defaultValue;
+    return QRectF(coordinate(element, "x"), coordinate(element, "y"), coordinate(element, "width"), coordinate(element, "height"));
+}
+
+QSize PvXMLParser::readSize(const QDomElement& element, const QSize& defaultValue)
+{
+    if (!hasAnyAttribute(element, { "width", "height" }))
+        return defaultValue;
+    return QSize(intCoordinate(element, "width"), intCoordinate(element, "height"));
+}
+
+QVector3D PvXMLParser::readVector3D(const QDomElement& element, const QVector3D& defaultValue)
+{
+    if (!hasAnyAttribute(element, { "x", "y", "z" }))
+        return defaultValue;
+    return QVector3D(float(coordinate(element, "x")), float(coordinate(element, "y")), float(coordinate(element, "z")));
+}
+
+int PvXMLParser::intText(const QDomElement& element, const QString& childName, int defaultValue)
+{
+    const QDomElement child = element.firstChildElement(childName);
+    if (child.isNull())
+        return defaultValue;
+    bool ok = false;
+    const int value = child.text().trimmed().toInt(&ok, 10);
+    return ok ? value : defaultValue;
+}

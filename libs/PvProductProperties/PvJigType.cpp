@@ -1,5 +1,9 @@
 #include "PvJigType.h"
 
+#include "PvJigTypeList.h"
+
+#include <QCoreApplication>
+
 PvJigType::PvJigType(PvJigTypeEnum value) noexcept
     : PvEnumWrapper(value)
 {
@@ -36,4 +40,73 @@ void PvJigType::fillTable(Table* table) const
         { "storybook", PvJigTypeStorybook },
         { "variant_template", PvJigTypeVariantTemplate },
     });
+}
+
+namespace {
+struct NameRow {
+    PvJigTypeEnum value;
+    const char* name;
+};
+
+constexpr NameRow displayNames[] = {
+    { PvJigTypeBackground, QT_TRANSLATE_NOOP("PvJigType", "Hintergrund") },
+    { PvJigTypeClipart, QT_TRANSLATE_NOOP("PvJigType", "Clipart") },
+    { PvJigTypeContent, QT_TRANSLATE_NOOP("PvJigType", "Design") },
+    { PvJigTypeLayout, QT_TRANSLATE_NOOP("PvJigType", "Layout") },
+    { PvJigTypePassepartout, QT_TRANSLATE_NOOP("PvJigType", "Maske") },
+    { PvJigTypeFrame, QT_TRANSLATE_NOOP("PvJigType", "Rahmen") },
+    { PvJigTypeFramePassepartout, QT_TRANSLATE_NOOP("PvJigType", "Passepartout") },
+    { PvJigTypeFrameGlas, QT_TRANSLATE_NOOP("PvJigType", "Glas") },
+    { PvJigTypeWallholder, QT_TRANSLATE_NOOP("PvJigType", "Wandhalterung") },
+    { PvJigTypeStylesV2, QT_TRANSLATE_NOOP("PvJigType", "Designvorlage") },
+    { PvJigTypeStorybook, QT_TRANSLATE_NOOP("PvJigType", "Buchvorlage") },
+};
+}
+
+QString PvJigType::describe() const
+{
+    for (const NameRow& row : displayNames) {
+        if (row.value == m_value)
+            return QCoreApplication::translate("PvJigType", row.name);
+    }
+    return {};
+}
+
+const QHash<PvJigTypeEnum, PvDlpTypeEnum>& PvJigType::jigToDlpEnumHash()
+{
+    // 6144 is style templates together with story books; 16384 and 32768 have no names here
+    // but their download types (fonts, text styles) do.
+    static const QHash<PvJigTypeEnum, PvDlpTypeEnum> hash {
+        { PvJigTypeClipart, PvDlpTypeClipart },
+        { PvJigTypeBackground, PvDlpTypeBackground },
+        { PvJigTypeContent, PvDlpTypeContent },
+        { PvJigTypePassepartout, PvDlpTypeMask },
+        { PvJigTypeStylesV2, PvDlpTypeStyles },
+        { PvJigTypeStorybook, PvDlpTypeStorybook },
+        { PvJigTypeEnum(PvJigTypeStylesV2 | PvJigTypeStorybook), PvDlpTypeEnum(PvDlpTypeStyles | PvDlpTypeStorybook) },
+        { PvJigTypeLayout, PvDlpTypeLayout },
+        { PvJigTypeEnum(16384), PvDlpTypeFont },
+        { PvJigTypeEnum(32768), PvDlpTypeTextstyle },
+    };
+    return hash;
+}
+
+PvDlpType PvJigType::dlpType() const
+{
+    return jigToDlpEnumHash().value(m_value, PvDlpTypeEnum(0));
+}
+
+PvJigType PvJigType::createFromDlpType(const PvDlpType& dlpType)
+{
+    const auto& hash = jigToDlpEnumHash();
+    for (auto it = hash.cbegin(); it != hash.cend(); ++it) {
+        if (it.value() == dlpType.value())
+            return it.key();
+    }
+    return {};
+}
+
+bool PvJigType::isDownloadable() const
+{
+    return PvJigTypeList::allDownloadableElementTypes().contains(*this);
 }

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "PvDlpType.h"
 #include "PvEnumWrapper.h"
 #include "pvproductproperties_export.h"
+
+#include <QHash>
 
 enum PvJigTypeEnum : quint32 {
     PvJigTypeUnknown = 0,
@@ -25,6 +28,18 @@ class PVPRODUCTPROPERTIES_EXPORT PvJigType : public PvEnumWrapper<PvJigTypeEnum>
 public:
     PvJigType(PvJigTypeEnum value = PvJigTypeEnum(0)) noexcept;
     explicit PvJigType(const QString& text);
+
+    //! The translated display name; empty for unknown values and for combinations of kinds.
+    [[nodiscard]] QString describe() const;
+    //! The download package type of this kind, or 0 when its content is not downloaded.
+    [[nodiscard]] PvDlpType dlpType() const;
+    //! True for the kinds listed by PvJigTypeList::allDownloadableElementTypes().
+    [[nodiscard]] bool isDownloadable() const;
+
+    //! The kind whose download package type is \a dlpType, or 0 when none maps to it.
+    [[nodiscard]] static PvJigType createFromDlpType(const PvDlpType& dlpType);
+    //! Kind to download package type, for the kinds that have one.
+    [[nodiscard]] static const QHash<PvJigTypeEnum, PvDlpTypeEnum>& jigToDlpEnumHash();
 
 protected:
     void fillTable(Table* table) const override;

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "PvDistanceUnit.h"
+#include "PvProductClassificationGroup.h"
+#include "PvProductType.h"
+#include "pvproductproperties_export.h"
+
+#include <QDomElement>
+#include <QSize>
+#include <QString>
+
+/*!
+ * Where a wall decor product sits in the choosers: its material group and its size, named
+ * in centimetres and in inches, read from the product's "classification" child.
+ */
+class PVPRODUCTPROPERTIES_EXPORT PvProductClassification
+{
+public:
+    PvProductClassification();
+    //! Reads the "product" element \a product and its first child "classification".
+    explicit PvProductClassification(const QDomElement& product);
+    PvProductClassification(const PvProductClassification& other);
+    PvProductClassification(PvProductClassification&& other) noexcept;
+    PvProductClassification& operator=(const PvProductClassification& other);
+    PvProductClassification& operator=(PvProductClassification&& other) noexcept;
+    virtual ~PvProductClassification();
+
+    [[nodiscard]] bool isValid() const { return m_productType.isValid(); }
+    [[nodiscard]] PvProductClassificationGroup group() const { return m_group; }
+    [[nodiscard]] PvProductType productType() const { return m_productType; }
+
+    //! The inch size name for inches, the centimetre size name for every other unit.
+    [[nodiscard]] QString sizeName(const PvDistanceUnit& unit) const;
+    [[nodiscard]] QString visibleName(const PvDistanceUnit& unit) const;
+    //! The size name followed by the unit's name, such as "30x40 cm".
+    [[nodiscard]] QString sizeNameWithUnit(const PvDistanceUnit& unit) const;
+    //! Width and height in inches for inches, in centimetres for every other unit.
+    [[nodiscard]] QSize dimensions(PvDistanceUnit unit) const;
+    //! Square centimetres.
+    [[nodiscard]] qint64 areaSize() const;
+    //! The diagonal in centimetres.
+    [[nodiscard]] double sizeDiagonal() const;
+
+    /*!
+     * Derives both sizes from the size names ("30x40", "X" too). The inch name is read only
+     * when the centimetre name gives a size.
+     */
+    void calculateSize();
+
+private:
+    PvProductClassificationGroup m_group;
+    QString m_cmName;
+    QString m_inchName;
+    PvProductType m_productType;
+    int m_cmWidth = 0;
+    int m_cmHeight = 0;
+    int m_inchWidth = -1;
+    int m_inchHeight = -1;
+};

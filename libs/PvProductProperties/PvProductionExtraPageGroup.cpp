@@ -1,0 +1,59 @@
+#include "PvProductionExtraPageGroup.h"
+
+#include <utility>
+
+#include <QDebug>
+#include <QStringList>
+
+PvProductionExtraPageGroup::PvProductionExtraPageGroup() = default;
+
+PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item)
+    : PvProductionExtraPageGroup(item, maxTargetPages)
+{
+}
+
+PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item, int pageBudget)
+    : m_content(item.firstChildElement(QStringLiteral("pdf")))
+{
+    readTargetPages(item.firstChildElement(QStringLiteral("target_pages")).text(), pageBudget);
+}
+
+PvProductionExtraPageGroup::PvProductionExtraPageGroup(const PvProductionExtraPageGroup& other) = default;
+PvProductionExtraPageGroup::PvProductionExtraPageGroup(PvProductionExtraPageGroup&& other) noexcept = default;
+PvProductionExtraPageGroup& PvProductionExtraPageGroup::operator=(const PvProductionExtraPageGroup& other) = default;
+PvProductionExtraPageGroup& PvProductionExtraPageGroup::operator=(PvProductionExtraPageGroup&& other) noexcept = default;
+PvProductionExtraPageGroup::~PvProductionExtraPageGroup() = default;
+
+void PvProductionExtraPageGroup::readTargetPages(const QString& text, int pageBudget)
+{
+    bool warned = false;
+    const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        qint64 first = 0;
+        qint64 last = 0;
+        if (part.contains(QLatin1Char('-'))) {
+            // "-4" is a range from 0: a piece that is not a number counts as 0.
+            const QStringList pieces = part.split(QLatin1Char('-'));
+            first = pieces.constFirst().toInt(nullptr, 10);
+            last = pieces.constLast().toInt(nullptr, 10);
+            if (first > last)
+                std::swap(first, last);
+        } else {
+            bool ok = false;
+            first = last = part.toInt(&ok, 10);
+            if (!ok)
+                continue;
+        }
+        // Product files come from outside: a range such as 1-2000000000 is a typing error,
+        // not a product, and must not allocate gigabytes.
+        const qint64 count = last - first + 1;
+        if (count > pageBudget - m_targetPages.size()) {
+            if (!warned)
+                qWarning("Too many target pages, skipped: \"%s\"", qUtf8Printable(part.trimmed()));
+            warned = true;
+            continue;
+        }
+        for (qint64 page = first; page <= last; ++page)
+            m_targetPages.append(int(page));
+    }
+}

@@ -3,6 +3,12 @@
 #include "PvEnumWrapper.h"
 #include "pvproductproperties_export.h"
 
+#include <QHash>
+#include <QString>
+
+class PvOrientation;
+class PvSpaceMagnitude;
+
 enum PvFotoBookShapeEnum : quint32 {
     PvFotoBookShapeUnknown = 0,
     PvFotoBookShapeMini = 1,
@@ -24,6 +30,21 @@ public:
     PvFotoBookShape(PvFotoBookShapeEnum value = PvFotoBookShapeEnum(0)) noexcept;
     explicit PvFotoBookShape(const QString& text);
 
+    //! The shape of a photo book of that size class and orientation; 0 when there is none.
+    [[nodiscard]] static PvFotoBookShape createFromArticleProperties(const PvSpaceMagnitude& magnitude, const PvOrientation& orientation);
+
+    //! The translated display name, e.g. "Groß"; empty for 0 and for combinations.
+    [[nodiscard]] QString sizeDescription() const;
+    //! The translated approximate size, e.g. "(ca. 21 x 28 cm)"; empty for 0 and for combinations.
+    [[nodiscard]] QString size() const;
+    //! The product name, the display name and the size, joined by single blanks.
+    [[nodiscard]] QString completeDescription() const;
+
 protected:
     void fillTable(Table* table) const override;
+
+private:
+    // Filled on first use in the language active then; one thread at a time.
+    mutable QHash<PvFotoBookShapeEnum, QString> m_names;
+    mutable QHash<PvFotoBookShapeEnum, QString> m_sizes;
 };

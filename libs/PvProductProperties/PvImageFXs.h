@@ -16,6 +16,8 @@ public:
     PvImageFXs(PvImageFXsEnum value = PvImageFXsEnum(0)) noexcept;
     explicit PvImageFXs(const QString& text);
 
+    [[nodiscard]] bool isGray() const noexcept { return hasAnyOf(PvImageFXsGrayscale); }
+
 protected:
     void fillTable(Table* table) const override;
 };

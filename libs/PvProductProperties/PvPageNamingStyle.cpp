@@ -1,5 +1,7 @@
 #include "PvPageNamingStyle.h"
 
+#include "PvXMLParser.h"
+
 PvPageNamingStyle::PvPageNamingStyle(PvPageNamingStyleEnum value) noexcept
     : PvEnumWrapper(value)
 {
@@ -46,4 +48,21 @@ void PvPageNamingStyle::fillTable(Table* table) const
     });
     table->unknownString = QStringLiteral("UNKOWN");
     table->unknownValue = PvPageNamingStyleEnum(0);
+}
+
+PvPageNamingStyle PvPageNamingStyle::fromXml(const QDomElement& element)
+{
+    const int value = PvXMLParser::intAttribute(element, defaultAttributeName(), 0);
+    return PvPageNamingStyle(static_cast<PvPageNamingStyleEnum>(static_cast<quint32>(value)));
+}
+
+void PvPageNamingStyle::toXml(QDomElement& element) const
+{
+    const auto value = static_cast<qint32>(toUnderlying());
+    element.setAttribute(defaultAttributeName(), static_cast<qlonglong>(value));
+}
+
+QString PvPageNamingStyle::defaultAttributeName()
+{
+    return QStringLiteral("pagenaming");
 }

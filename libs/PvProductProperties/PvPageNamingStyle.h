@@ -3,6 +3,9 @@
 #include "PvEnumWrapper.h"
 #include "pvproductproperties_export.h"
 
+#include <QDomElement>
+#include <QString>
+
 enum PvPageNamingStyleEnum : quint32 {
     PvPageNamingStyleBook = 0x1,
     PvPageNamingStyleCalendar = 0x2,
@@ -42,6 +45,12 @@ class PVPRODUCTPROPERTIES_EXPORT PvPageNamingStyle : public PvEnumWrapper<PvPage
 public:
     PvPageNamingStyle(PvPageNamingStyleEnum value = PvPageNamingStyleEnum(0)) noexcept;
     explicit PvPageNamingStyle(const QString& text);
+
+    //! The style stored numerically in the attribute "pagenaming" of \a element; 0 when absent.
+    [[nodiscard]] static PvPageNamingStyle fromXml(const QDomElement& element);
+    //! Writes the value as a signed decimal, so "slipcase" (the sign bit) reads -2147483648.
+    void toXml(QDomElement& element) const;
+    [[nodiscard]] static QString defaultAttributeName();
 
 protected:
     void fillTable(Table* table) const override;

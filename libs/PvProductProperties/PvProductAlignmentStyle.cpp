@@ -20,3 +20,20 @@ void PvProductAlignmentStyle::fillTable(Table* table) const
         { "foto_advent_calendar", PvProductAlignmentStyleFotoAdventCalendar },
     });
 }
+
+void PvProductAlignmentStyle::expandToKeyword(const QString& text)
+{
+    *this |= PvProductAlignmentStyle(text);
+}
+
+bool PvProductAlignmentStyle::hasOnlySinglePages() const
+{
+    switch (m_value) {
+    case PvProductAlignmentStyleCard:
+    case PvProductAlignmentStyleCollegeblock:
+    case PvProductAlignmentStyleFotoAdventCalendar:
+        return true;
+    default:
+        return false;
+    }
+}

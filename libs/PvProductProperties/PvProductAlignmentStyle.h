@@ -18,6 +18,11 @@ public:
     PvProductAlignmentStyle(PvProductAlignmentStyleEnum value = PvProductAlignmentStyleEnum(0)) noexcept;
     explicit PvProductAlignmentStyle(const QString& text);
 
+    //! ORs the styles named in \a text into the value; unknown words add nothing.
+    void expandToKeyword(const QString& text);
+    //! Exactly one of the single-page styles: card, collegeblock or foto_advent_calendar.
+    [[nodiscard]] bool hasOnlySinglePages() const;
+
 protected:
     void fillTable(Table* table) const override;
 };

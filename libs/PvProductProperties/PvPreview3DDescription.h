@@ -34,7 +34,7 @@ public:
      * Reads the "preview3D" child of \a product (or \a product itself when it is the
      * "preview3D" element). The page needs a texture target to name the mesh it paints, so a
      * mesh without any "textureTarget" is dropped with the warning
-     * "3D preview of product \"<name>\" has a mesh but no textureTarget; the product gets no 3D preview."
+     *     3D preview of product "<name>" has a mesh but no textureTarget; the product gets no 3D preview.
      * where <name> is the "name" attribute of the product element.
      */
     void init(const QDomElement& product);

@@ -82,7 +82,7 @@ bool PvSpiralConfig::operator<(const PvSpiralConfig& other) const
 {
     if (m_count < other.m_count)
         return true;
-    // Width against the other's height: sorted containers of existing files depend on this order.
+    // This width against the other's height is deliberate, not a typo; keep it.
     if (m_hookWidth < other.m_hookHeight)
         return true;
     return m_hookHeight < other.m_hookHeight;

@@ -30,7 +30,7 @@ bool PvSurroundingKey::isOkayFor(const PvSurroundingKey& other) const
 {
     if (m_pageIndex == -1 && m_pageContext.matchesWith(other.m_pageContext))
         return m_variant == other.m_variant || other.m_pageIndex == -1;
-    // Page numbers win over contexts: product files rely on it for single odd pages.
+    // Deliberately without the context: a page number wins over page type and alignment.
     return m_pageIndex == other.m_pageIndex;
 }
 

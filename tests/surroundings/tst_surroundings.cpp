@@ -54,7 +54,7 @@ private Q_SLOTS:
         QTest::addColumn<bool>("hasHook");
         QTest::addColumn<QSize>("horizontal");
 
-        QTest::newRow("count only: loops 54 apart 30") << "count=\"10\"" << true << false << QSize(810, 150);
+        QTest::newRow("count only: loops 54 wide, gaps of 30") << "count=\"10\"" << true << false << QSize(810, 150);
         QTest::newRow("no loops: length -distance") << "count=\"0\"" << false << false << QSize(-30, 150);
         QTest::newRow("hook needs both sizes") << "count=\"2\" hookWidth=\"100\" hookHeight=\"0\"" << true << false << QSize(138, 150);
         QTest::newRow("hook") << "count=\"2\" hookWidth=\"10\" hookHeight=\"5\" loopHeight=\"7\"" << true << true << QSize(138, 7);

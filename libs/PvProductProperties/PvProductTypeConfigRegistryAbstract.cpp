@@ -4,6 +4,11 @@
 #include "PvProductTypeDescription.h"
 #include "PvProductTypeDescriptionReader.h"
 
+#include <QPair>
+
+#include <algorithm>
+#include <limits>
+
 namespace {
 constexpr int ProductTypeCheckerKind = 4;
 // The checker kinds whose verdict decides whether a product may be offered.
@@ -99,4 +104,77 @@ PvProductType PvProductTypeConfigRegistryAbstract::firstValidProduct(const PvPro
             return type;
     }
     return {};
+}
+
+bool PvProductTypeConfigRegistryAbstract::horizontalPages(const PvProductType& type) const
+{
+    return description(type)->horizontalPages();
+}
+
+PvConfiguredArticleVariantList PvProductTypeConfigRegistryAbstract::variants(const PvProductType& type) const
+{
+    return description(type)->variants();
+}
+
+QList<int> PvProductTypeConfigRegistryAbstract::productionNumberingList(const PvProductType& type, int pageCount) const
+{
+    return description(type)->productionNumberingList(pageCount);
+}
+
+PvPageTypeList PvProductTypeConfigRegistryAbstract::pageTypes(const PvProductType& type, int pageCount) const
+{
+    // A negative count would turn into four billion pages per run.
+    return description(type)->pageTypes(unsigned(std::max(pageCount, 0)));
+}
+
+PvEmptyMeansAllSet<PvProductType> PvProductTypeConfigRegistryAbstract::findProducts(const PvEmptyMeansAllSet<PvArticleClass>& articleClasses,
+                                                                                    const PvEmptyMeansAllSet<PvCoverType>& coverTypes) const
+{
+    PvEmptyMeansAllSet<PvProductType> found;
+    if (articleClasses.isEmpty() && coverTypes.isEmpty())
+        return found;
+    // A filter that matches nothing gives the empty set as well, which callers read as all
+    // products; that is what they rely on.
+    for (auto it = m_descriptions.cbegin(); it != m_descriptions.cend(); ++it) {
+        if (articleClasses.sharesKey(it.value()->articleClass()) && coverTypes.sharesKey(it.value()->coverType()))
+            found.insert(it.key());
+    }
+    return found;
+}
+
+PvProductTypeList PvProductTypeConfigRegistryAbstract::findAllIn(const PvProductClassificationGroup& group) const
+{
+    PvProductTypeList found;
+    for (auto it = m_descriptions.cbegin(); it != m_descriptions.cend(); ++it) {
+        if (it.value()->classification().group() == group)
+            found.append(it.key());
+    }
+    return found;
+}
+
+PvProductClassificationManager PvProductTypeConfigRegistryAbstract::createProductClassifationManager(const PvArticleClass& articleClass) const
+{
+    QList<PvProductClassification> classifications;
+    for (const PvProductTypeDescription* description : m_descriptions) {
+        if (description->articleClass().hasAnyOf(articleClass.toUnderlying()))
+            classifications.append(description->classification());
+    }
+    return PvProductClassificationManager(classifications);
+}
+
+QList<QString> PvProductTypeConfigRegistryAbstract::sortPageFileNameListInInternOrder(const PvProductType& type, const QList<QString>& fileNames) const
+{
+    if (fileNames.isEmpty() || !type.isValid())
+        return fileNames;
+    const QList<int> numbers = description(type)->productionNumberingList(int(std::min<qsizetype>(fileNames.size(), std::numeric_limits<int>::max())));
+    QList<QPair<int, qsizetype>> order;
+    order.reserve(numbers.size());
+    for (qsizetype i = 0; i < numbers.size(); ++i)
+        order.append({ numbers.at(i), i });
+    std::sort(order.begin(), order.end());
+    QList<QString> sorted;
+    sorted.reserve(order.size());
+    for (const auto& entry : order)
+        sorted.append(fileNames.at(entry.second));
+    return sorted;
 }

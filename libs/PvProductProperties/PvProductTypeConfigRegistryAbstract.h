@@ -1,7 +1,12 @@
 #pragma once
 
 #include "PvArticleClass.h"
+#include "PvConfiguredArticleVariantList.h"
+#include "PvCoverType.h"
+#include "PvEmptyMeansAllSet.h"
+#include "PvPageTypeList.h"
 #include "PvProductChecker.h"
+#include "PvProductClassificationManager.h"
 #include "PvProductType.h"
 #include "PvProductTypeList.h"
 #include "pvproductproperties_export.h"
@@ -9,6 +14,7 @@
 #include <QDir>
 #include <QHash>
 #include <QList>
+#include <QString>
 
 #include <memory>
 
@@ -48,6 +54,29 @@ public:
     [[nodiscard]] PvProductTypeList allAvailableProducts() const;
     //! The first type of \a types with a valid description; an empty type when there is none.
     [[nodiscard]] PvProductType firstValidProduct(const PvProductTypeList& types) const;
+
+    [[nodiscard]] bool horizontalPages(const PvProductType& type) const;
+    [[nodiscard]] PvConfiguredArticleVariantList variants(const PvProductType& type) const;
+    //! The production numbers of a project of \a pageCount pages; see the description's.
+    [[nodiscard]] QList<int> productionNumberingList(const PvProductType& type, int pageCount) const;
+    //! The concrete page list of a project of \a pageCount pages; a negative count counts as 0.
+    [[nodiscard]] PvPageTypeList pageTypes(const PvProductType& type, int pageCount) const;
+
+    /*!
+     * The loaded products whose article class and cover type the filters accept. Both filters
+     * empty give the empty set at once, which, like any empty answer, means every product.
+     */
+    [[nodiscard]] PvEmptyMeansAllSet<PvProductType> findProducts(const PvEmptyMeansAllSet<PvArticleClass>& articleClasses,
+                                                                 const PvEmptyMeansAllSet<PvCoverType>& coverTypes) const;
+    //! The loaded products classified into \a group.
+    [[nodiscard]] PvProductTypeList findAllIn(const PvProductClassificationGroup& group) const;
+    //! A manager of the classifications of the products sharing a bit of \a articleClass.
+    [[nodiscard]] PvProductClassificationManager createProductClassifationManager(const PvArticleClass& articleClass) const;
+    /*!
+     * \a fileNames, one per page position, put into the order of the pages' production
+     * numbers (ties keep their positions). Unchanged for an invalid type.
+     */
+    [[nodiscard]] QList<QString> sortPageFileNameListInInternOrder(const PvProductType& type, const QList<QString>& fileNames) const;
 
 protected:
     PvProductTypeConfigRegistryAbstract();

@@ -1,17 +1,57 @@
 #include "PvProductTypeDescription.h"
 
+#include "PvSurroundingKey.h"
 #include "PvXMLParser.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+constexpr quint32 alignmentSpineMask = 0xF03E1;
+
+QDomElement child(const QDomElement& element, const char* name)
+{
+    return element.firstChildElement(QString::fromLatin1(name));
+}
+
+// Appends \a count page types, cycling through \a cycle from its start.
+void appendCycle(PvPageTypeList& pages, unsigned int count, std::initializer_list<PvPageTypeEnum> cycle)
+{
+    const auto first = cycle.begin();
+    for (unsigned int i = 0; i < count; ++i)
+        pages.append(PvPageType(*(first + i % cycle.size())));
+}
+
+PvPageAlignment horizontalOr(bool horizontal, PvPageAlignmentEnum side, PvPageAlignmentEnum stacked)
+{
+    return horizontal ? side : stacked;
+}
+}
 
 PvProductTypeDescription::PvProductTypeDescription() = default;
 
 PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
 {
     // The order of these steps is the order product files are read in; later steps may
-    // depend on earlier ones.
+    // depend on earlier ones (the surroundings on the product type, for one).
+    m_classification = PvProductClassification(product);
     initIdentity(product);
     initArticleClass(product);
+    initImageFX(product);
     m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding")));
+    initLayout(product);
+    initRedirectsAndDefaults(product);
+    initVariants(product);
+    initPages(product);
+    initPageNumbering(product);
+    m_extraProductionContents = PvProductionExtraPageGroupList(child(product, "extra_production_pages"));
+    m_foldSafetyMargin = decodeFoldSafetyMargin(product);
     initReplacement(product);
+    initPricListCategories(product);
+    initbarcodeDefinitions(product);
+    initPreview3D(product);
 }
 
 PvProductTypeDescription::~PvProductTypeDescription() = default;
@@ -30,10 +70,99 @@ void PvProductTypeDescription::initArticleClass(const QDomElement& product)
         m_articleClass = PvArticleClass();
 }
 
+void PvProductTypeDescription::initImageFX(const QDomElement& product)
+{
+    m_imageFX = PvImageFXs(PvXMLParser::attribute(product, QStringLiteral("imageFXs")));
+    m_canHaveBorder = m_canHaveShadow = !m_imageFX.hasAnyOf(PvImageFXsGrayscale);
+}
+
+void PvProductTypeDescription::initLayout(const QDomElement& product)
+{
+    m_horizontalPages = PvXMLParser::boolAttribute(product, QStringLiteral("horizontalPages"), true);
+    m_productAlignment = PvProductAlignmentStyle(PvXMLParser::attribute(product, QStringLiteral("productAlignment")));
+    m_mustPaintMiralLogoOnSpine = PvXMLParser::boolAttribute(product, QStringLiteral("hasLogoOnSpine"), false);
+    m_surroundings = PvSurroundingDescriptionList(m_productType, product);
+}
+
+void PvProductTypeDescription::initRedirectsAndDefaults(const QDomElement& product)
+{
+    m_tiltRedirects = PvPageTiltRedirectList(child(product, "rotationredirects"));
+    m_contentDropRedirects = PvContentDropRedirectList(child(product, "contentredirects"));
+    m_defaultTemplates = PvDefaultTemplateMap(child(product, "defaults"));
+    // Deliberately 270 when the product says nothing about tilt.
+    m_tiltAngle = PvXMLParser::readAngle(child(product, "tilt"), QStringLiteral("angle"), 270);
+}
+
+void PvProductTypeDescription::initVariants(const QDomElement& product)
+{
+    m_variants = PvConfiguredArticleVariantList(product);
+}
+
+void PvProductTypeDescription::initPages(const QDomElement& product)
+{
+    m_productionNumbering = decodeIntList(child(product, "productionnumbering"));
+    m_pagesWithContent = decodeIntList(child(product, "pageswithcontent"));
+    // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
+    // pageTypes(n) warn about the product.
+    m_pageTypes = PvPageTypeList(child(product, "pages").text());
+
+    const auto isSpine = [](const PvPageType& type) { return type == PvPageTypeSpine; };
+    const auto isJacket = [](const PvPageType& type) { return type == PvPageTypeJacket; };
+    m_hasSpine = std::any_of(m_pageTypes.cbegin(), m_pageTypes.cend(), isSpine)
+        || std::any_of(m_pageTypes.cbegin(), m_pageTypes.cend(), isJacket);
+    PvPageTypeList pages = m_pageTypes;
+    m_hasTextOnSpine = m_hasSpine && !pages.containsMatch(PvPageTypeEnum(PvPageTypeCoverInsideFront | PvPageTypeCoverInsideBack));
+}
+
+void PvProductTypeDescription::initPageNumbering(const QDomElement& product)
+{
+    const QDomElement config = child(product, "pageNumberConfig");
+    const QDomElement margin = child(config, "margin");
+    const PvDistanceUnit unit(PvTenthMillimetre);
+    m_pageNumberVerticalIndent = PvXMLParser::readDistance(margin, QStringLiteral("verticalMargin"), 50.0, unit);
+    m_pageNumberHorizontalIndent = PvXMLParser::readDistance(margin, QStringLiteral("horizontalMargin"), 50.0, unit);
+    m_pageNumberFontSize = PvXMLParser::intAttribute(child(config, "font"), QStringLiteral("fontSize"), 24);
+}
+
 void PvProductTypeDescription::initReplacement(const QDomElement& product)
 {
     m_replacedByProduct = PvProductType(PvXMLParser::attribute(product, QStringLiteral("replacedBy"), QString(), true));
     m_conversionStrategy = PvXMLRewriterStrategy(PvXMLParser::attribute(product, QStringLiteral("conversionStrategy"), QString(), true));
+}
+
+void PvProductTypeDescription::initPricListCategories(const QDomElement& product)
+{
+    const QDomElement category = child(child(product, "pricelist"), "category");
+    if (!category.isNull())
+        m_priceListCategory = category.text();
+}
+
+void PvProductTypeDescription::initbarcodeDefinitions(const QDomElement& product)
+{
+    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(child(product, "barcodes"), PvDistanceUnit(PvTenthMillimetre));
+}
+
+void PvProductTypeDescription::initPreview3D(const QDomElement& product)
+{
+    m_preview3DDescription = PvPreview3DDescription(product);
+}
+
+QList<int> PvProductTypeDescription::decodeIntList(const QDomElement& element)
+{
+    QList<int> numbers;
+    const QStringList parts = element.text().simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        bool ok = false;
+        const int number = part.toInt(&ok, 10);
+        if (ok)
+            numbers.append(number);
+    }
+    return numbers;
+}
+
+int PvProductTypeDescription::decodeFoldSafetyMargin(const QDomElement& element)
+{
+    return PvXMLParser::intAttribute(element, QStringLiteral("foldsafetymargin"), -1);
 }
 
 bool PvProductTypeDescription::isValid() const
@@ -56,4 +185,138 @@ bool PvProductTypeDescription::isVarioCard() const
 bool PvProductTypeDescription::isEasyCard() const
 {
     return m_articleClass == PvArticleClassCard && !m_isVario;
+}
+
+PvPageTypeList PvProductTypeDescription::pageTypes(unsigned int pageCount) const
+{
+    PvPageTypeList pages;
+    unsigned int remaining = pageCount;
+    for (const PvPageType& entry : m_pageTypes) {
+        switch (entry.toUnderlying()) {
+        case 0:
+            qWarning("Illegaler Seitentyp in der Produktbeschreibung.");
+            break;
+        case PvPageTypeCover:
+            // A cover counts against the runs after it; never below none, or a cover in a
+            // zero-page request would turn the next run into four billion pages.
+            if (remaining > 0)
+                --remaining;
+            pages.append(entry);
+            break;
+        case PvPageTypeRun:
+            appendCycle(pages, remaining, { PvPageTypePage });
+            break;
+        case PvPageTypeRunRightLeft:
+            appendCycle(pages, remaining, { PvPageTypePageRight, PvPageTypePageLeft });
+            break;
+        case PvPageTypeRunPairs:
+            appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageLeft, PvPageTypePageRight, PvPageTypePageRight });
+            break;
+        case PvPageTypeRunLeftRight:
+            appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageRight });
+            break;
+        case PvPageTypeRunYear:
+            // A year is twelve months and a title whatever page count is asked for.
+            pages.append(PvPageType(PvPageTypePage));
+            appendCycle(pages, 24, { PvPageTypeMonthPage });
+            break;
+        case PvPageTypeJacket:
+            pages.appendEnum({ PvPageTypeJacketFlapLeft, PvPageTypeJacketBack, PvPageTypeJacketFront, PvPageTypeJacketFlapRight });
+            break;
+        default:
+            pages.append(entry);
+        }
+    }
+    if (pages.isEmpty())
+        pages.append(PvPageType(PvPageTypePage));
+    return pages;
+}
+
+PvProductionNumberingList PvProductTypeDescription::productionNumberingList(int pageCount) const
+{
+    if (pageCount <= 0)
+        return {};
+    PvProductionNumberingList numbers = m_productionNumbering.isEmpty() ? PvProductionNumberingList { 1 } : m_productionNumbering;
+    if (numbers.size() > pageCount)
+        numbers.resize(pageCount);
+    numbers.reserve(pageCount);
+    while (numbers.size() < pageCount) {
+        // Saturates rather than overflowing on a stored number near the top of int.
+        const int last = numbers.constLast();
+        numbers.append(last == std::numeric_limits<int>::max() ? last : last + 1);
+    }
+    return numbers;
+}
+
+PvPageAlignment PvProductTypeDescription::pageAlignment(const PvPageTypeList& pages, int index) const
+{
+    const bool h = m_horizontalPages;
+    const bool odd = index % 2 != 0;
+    if (m_coverType.isSimplex()) {
+        switch (m_productAlignment.toUnderlying()) {
+        case PvProductAlignmentStyleNormal:
+            return horizontalOr(h, PvPageAlignmentRight, PvPageAlignmentBottom);
+        case PvProductAlignmentStyleCard:
+        case PvProductAlignmentStyleCollegeblock:
+            if (h)
+                return odd ? PvPageAlignmentRight : PvPageAlignmentLeft;
+            return odd ? PvPageAlignmentBottom : PvPageAlignmentTop;
+        case PvProductAlignmentStyleVarioCard:
+        case PvProductAlignmentStyleFotoAdventCalendar:
+            return PvPageAlignmentCenter;
+        default:
+            break;
+        }
+    }
+    if (pages.containsPanoPageType() && index >= 0 && index < 4) {
+        if (index == 0)
+            return PvPageAlignmentLeft;
+        if (index == 1 && pages.constFirst() == PvPageTypeOpeningPage)
+            return PvPageAlignmentLeft;
+        return PvPageAlignmentRight;
+    }
+    const PvPageType type = index >= 0 && index < pages.size() ? pages.at(index) : PvPageType();
+    if (type.hasAnyOf(alignmentSpineMask) && m_hasSpine && index >= 0 && index < 3) {
+        static const PvPageAlignmentEnum horizontal[] = { PvPageAlignmentLeft, PvPageAlignmentCenter, PvPageAlignmentRight };
+        static const PvPageAlignmentEnum stacked[] = { PvPageAlignmentTop, PvPageAlignmentMiddle, PvPageAlignmentBottom };
+        return h ? horizontal[index] : stacked[index];
+    }
+    if (odd)
+        return horizontalOr(h, PvPageAlignmentRight, PvPageAlignmentBottom);
+    return horizontalOr(h, PvPageAlignmentLeft, PvPageAlignmentTop);
+}
+
+PvSurroundingDescription PvProductTypeDescription::findSurrounding(const PvSurroundingKey& key) const
+{
+    return m_surroundings.findDescription(key);
+}
+
+bool PvProductTypeDescription::hasSurroundingWithBindingShade() const
+{
+    return m_surroundings.hasSurroundingWithBindingShade();
+}
+
+PvPageTiltRedirectList PvProductTypeDescription::tiltRedirectForSourcePage(int page) const
+{
+    return m_tiltRedirects.filterBySourcePage(page);
+}
+
+PvPageTiltRedirectList PvProductTypeDescription::tiltRedirectForTargetPage(int page) const
+{
+    return m_tiltRedirects.filterByTargetPage(page);
+}
+
+int PvProductTypeDescription::contentDropRedirect(int page) const
+{
+    return m_contentDropRedirects.targetPage(page);
+}
+
+QString PvProductTypeDescription::findDefaultTemplate(const PvDefaultTemplateKey& key) const
+{
+    return m_defaultTemplates.findTemplate(key);
+}
+
+int PvProductTypeDescription::extraProductionPageCount() const
+{
+    return int(m_extraProductionContents.totalPages());
 }

@@ -1,12 +1,33 @@
 #pragma once
 
 #include "PvArticleClass.h"
+#include "PvBarcodeDefinitionList.h"
+#include "PvConfiguredArticleVariantList.h"
+#include "PvContentDropRedirectList.h"
 #include "PvCoverType.h"
+#include "PvDefaultTemplateMap.h"
+#include "PvDistance.h"
+#include "PvImageFXs.h"
+#include "PvPageAlignment.h"
+#include "PvPageTiltRedirectList.h"
+#include "PvPageTypeList.h"
+#include "PvPreview3DDescription.h"
+#include "PvProductAlignmentStyle.h"
+#include "PvProductClassification.h"
 #include "PvProductType.h"
+#include "PvProductionExtraPageGroupList.h"
+#include "PvSurroundingDescriptionList.h"
 #include "PvXMLRewriterStrategy.h"
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
+#include <QList>
+#include <QString>
+
+class PvSurroundingKey;
+
+//! Production numbers of pages, by page position.
+using PvProductionNumberingList = QList<int>;
 
 /*!
  * Everything the application knows about one orderable product type, read from the
@@ -40,16 +61,113 @@ public:
     [[nodiscard]] bool isVarioCard() const;
     [[nodiscard]] bool isEasyCard() const;
 
+    //! A spine or a jacket page is in the page list.
+    [[nodiscard]] bool hasSpine() const { return m_hasSpine; }
+    [[nodiscard]] bool mustPaintMiralLogoOnSpine() const { return m_mustPaintMiralLogoOnSpine; }
+    //! A spine without inside cover pages, which would take the text otherwise.
+    [[nodiscard]] bool hasTextOnSpine() const { return m_hasTextOnSpine; }
+    [[nodiscard]] PvImageFXs imageFX() const { return m_imageFX; }
+    //! -1 when the product file gives none.
+    [[nodiscard]] int foldSafetyMargin() const { return m_foldSafetyMargin; }
+    [[nodiscard]] bool canHaveBorder() const { return m_canHaveBorder; }
+    [[nodiscard]] bool canHaveShadow() const { return m_canHaveShadow; }
+    [[nodiscard]] PvProductAlignmentStyle productAlignment() const { return m_productAlignment; }
+    [[nodiscard]] bool horizontalPages() const { return m_horizontalPages; }
+    [[nodiscard]] PvConfiguredArticleVariantList variants() const { return m_variants; }
+    [[nodiscard]] QString priceListCategory() const { return m_priceListCategory; }
+    //! Degrees; 270 when the product file has no "tilt".
+    [[nodiscard]] int tiltAngle() const { return m_tiltAngle; }
+    [[nodiscard]] PvBarcodeDefinitionList barcodeDefinitions() const { return m_barcodeDefinitions; }
+    [[nodiscard]] PvPreview3DDescription preview3DDescription() const { return m_preview3DDescription; }
+    [[nodiscard]] PvProductClassification classification() const { return m_classification; }
+
+    //! The page list as written, with its placeholders for runs of pages.
+    [[nodiscard]] PvPageTypeList pageTypes() const { return m_pageTypes; }
+    [[nodiscard]] int countAbstractPages() const { return int(m_pageTypes.size()); }
+    /*!
+     * The concrete page types of a project of \a pageCount pages: each run placeholder
+     * stands for \a pageCount pages, less one for each cover page before it. Never empty.
+     * Each run costs memory in proportion to \a pageCount; callers pass real page counts.
+     */
+    [[nodiscard]] PvPageTypeList pageTypes(unsigned int pageCount) const;
+    //! The stored production numbers of the first pages.
+    [[nodiscard]] PvProductionNumberingList productionNumbering() const { return m_productionNumbering; }
+    /*!
+     * Exactly \a pageCount production numbers (none for a count below 1): the stored ones,
+     * cut or continued by counting on from the last. Costs memory in proportion to \a pageCount.
+     */
+    [[nodiscard]] PvProductionNumberingList productionNumberingList(int pageCount) const;
+    //! Where the page at \a index of the concrete list \a pages lies in its spread.
+    [[nodiscard]] PvPageAlignment pageAlignment(const PvPageTypeList& pages, int index) const;
+    [[nodiscard]] QList<int> pagesWithContent() const { return m_pagesWithContent; }
+
+    [[nodiscard]] PvSurroundingDescriptionList surroundings() const { return m_surroundings; }
+    [[nodiscard]] PvSurroundingDescription findSurrounding(const PvSurroundingKey& key) const;
+    [[nodiscard]] bool hasSurroundingWithBindingShade() const;
+    [[nodiscard]] PvPageTiltRedirectList tiltRedirects() const { return m_tiltRedirects; }
+    [[nodiscard]] PvPageTiltRedirectList tiltRedirectForSourcePage(int page) const;
+    [[nodiscard]] PvPageTiltRedirectList tiltRedirectForTargetPage(int page) const;
+    [[nodiscard]] PvContentDropRedirectList contentDropRedirects() const { return m_contentDropRedirects; }
+    //! The page that content dropped on \a page lands on.
+    [[nodiscard]] int contentDropRedirect(int page) const;
+    [[nodiscard]] PvDefaultTemplateMap defaultTemplates() const { return m_defaultTemplates; }
+    [[nodiscard]] QString findDefaultTemplate(const PvDefaultTemplateKey& key) const;
+    [[nodiscard]] PvDistance pageNumberHorizontalIndent() const { return m_pageNumberHorizontalIndent; }
+    [[nodiscard]] PvDistance pageNumberVerticalIndent() const { return m_pageNumberVerticalIndent; }
+    [[nodiscard]] int pageNumberFontSize() const { return m_pageNumberFontSize; }
+    [[nodiscard]] PvProductionExtraPageGroupList extraProductionContents() const { return m_extraProductionContents; }
+    [[nodiscard]] int extraProductionPageCount() const;
+
+    //! The numbers of a comma-separated list in the text of \a element; other parts are dropped.
+    [[nodiscard]] static QList<int> decodeIntList(const QDomElement& element);
+    //! The "foldsafetymargin" of \a element, -1 when it has none.
+    [[nodiscard]] static int decodeFoldSafetyMargin(const QDomElement& element);
+
 private:
     void initIdentity(const QDomElement& product);
     void initArticleClass(const QDomElement& product);
+    void initImageFX(const QDomElement& product);
+    void initLayout(const QDomElement& product);
+    void initRedirectsAndDefaults(const QDomElement& product);
+    void initVariants(const QDomElement& product);
+    void initPages(const QDomElement& product);
+    void initPageNumbering(const QDomElement& product);
     void initReplacement(const QDomElement& product);
+    void initPricListCategories(const QDomElement& product);
+    void initbarcodeDefinitions(const QDomElement& product);
+    void initPreview3D(const QDomElement& product);
 
+    PvProductClassification m_classification;
     PvProductType m_productType;
     PvArticleClass m_articleClass;
     PvCoverType m_coverType;
     bool m_isVario = false;
     bool m_isTwoSided = false;
+    bool m_hasSpine = false;
+    bool m_mustPaintMiralLogoOnSpine = false;
+    bool m_hasTextOnSpine = false;
+    PvImageFXs m_imageFX;
+    int m_foldSafetyMargin = 0;
+    bool m_canHaveBorder = false;
+    bool m_canHaveShadow = false;
+    PvPageTypeList m_pageTypes;
+    PvProductAlignmentStyle m_productAlignment;
+    bool m_horizontalPages = false;
+    PvProductionNumberingList m_productionNumbering;
+    PvConfiguredArticleVariantList m_variants;
+    QList<int> m_pagesWithContent;
+    PvSurroundingDescriptionList m_surroundings;
+    PvPageTiltRedirectList m_tiltRedirects;
+    PvContentDropRedirectList m_contentDropRedirects;
+    PvDefaultTemplateMap m_defaultTemplates;
+    PvDistance m_pageNumberHorizontalIndent;
+    PvDistance m_pageNumberVerticalIndent;
+    int m_pageNumberFontSize = 0;
+    PvProductionExtraPageGroupList m_extraProductionContents;
     PvProductType m_replacedByProduct;
     PvXMLRewriterStrategy m_conversionStrategy;
+    QString m_priceListCategory;
+    int m_tiltAngle = 0;
+    PvBarcodeDefinitionList m_barcodeDefinitions;
+    PvPreview3DDescription m_preview3DDescription;
 };

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "PvDefaultTemplateKey.h"
+#include "pvproductproperties_export.h"
+
+#include <QDomElement>
+#include <QHash>
+#include <QString>
+
+/*!
+ * The layouts, backgrounds and designs a product uses by default for its pages, read from
+ * the "default" children of its "defaults" element. Names are kept with umlauts folded.
+ */
+class PVPRODUCTPROPERTIES_EXPORT PvDefaultTemplateMap
+{
+public:
+    PvDefaultTemplateMap() = default;
+    explicit PvDefaultTemplateMap(const QDomElement& defaults);
+
+    //! Adds the entries of \a defaults; a later entry replaces an earlier one of equal key.
+    void applyDefaultsNode(const QDomElement& defaults);
+
+    /*!
+     * The most specific non-empty name for \a key: the entry of its page and scene page count,
+     * then that of its scene page count for any page, then the general one (possibly empty).
+     */
+    [[nodiscard]] QString findTemplate(const PvDefaultTemplateKey& key) const;
+    [[nodiscard]] qsizetype size() const { return m_templates.size(); }
+
+    //! Folds ä, ö, ü and ß, in either case, to "ae", "oe", "ue" and "ss".
+    [[nodiscard]] static QString removeUmlauts(const QString& text);
+
+private:
+    void applyDefault(const QDomElement& entry);
+
+    QHash<PvDefaultTemplateKey, QString> m_templates;
+};

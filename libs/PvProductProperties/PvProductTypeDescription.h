@@ -64,7 +64,7 @@ public:
     //! A spine or a jacket page is in the page list.
     [[nodiscard]] bool hasSpine() const { return m_hasSpine; }
     [[nodiscard]] bool mustPaintMiralLogoOnSpine() const { return m_mustPaintMiralLogoOnSpine; }
-    //! A spine without inside cover pages, which would take the text otherwise.
+    //! A spine and no printed inside covers, which leave no room for text on the spine.
     [[nodiscard]] bool hasTextOnSpine() const { return m_hasTextOnSpine; }
     [[nodiscard]] PvImageFXs imageFX() const { return m_imageFX; }
     //! -1 when the product file gives none.

@@ -1,6 +1,5 @@
 #include "PvThematicCategoryRegistry.h"
 
-#include "PvAnnotatedLockers.h"
 #include "PvLocaleAndTranslationManager.h"
 #include "PvThematicCategory.h"
 #include "PvThematicCategoryTranslationRegistry.h"

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "PvAnnotatedLocks.h"
 #include "PvSingleton.h"
 #include "pvproductproperties_export.h"
 
 #include <QHash>
-#include <QMutex>
 #include <QString>
 
 /*!
@@ -36,7 +36,7 @@ private:
     int generateKey(const QString& lowerVisibleName);
 
     int m_nextKey = 1;
-    mutable QMutex m_mutex;
+    mutable PvMutex m_mutex;
     QHash<int, QString> m_internalNames;
     QHash<int, QString> m_visibleNames;
     QHash<QString, int> m_keysByInternalName;

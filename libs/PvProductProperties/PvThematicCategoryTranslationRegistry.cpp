@@ -1,6 +1,5 @@
 #include "PvThematicCategoryTranslationRegistry.h"
 
-#include "PvAnnotatedLockers.h"
 #include "PvBasisSettings.h"
 #include "PvDirectoryConfig.h"
 #include "PvLocaleAndTranslationManager.h"

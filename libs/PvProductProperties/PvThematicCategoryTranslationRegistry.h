@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PvAnnotatedLocks.h"
 #include "PvSingleton.h"
 #include "PvXMLBasedRegistry.h"
 #include "pvproductproperties_export.h"
@@ -7,7 +8,6 @@
 #include <QDomElement>
 #include <QHash>
 #include <QLocale>
-#include <QReadWriteLock>
 #include <QString>
 #include <QStringList>
 
@@ -63,6 +63,6 @@ private:
     friend class PvSingleton<PvThematicCategoryTranslationRegistry>;
     PvThematicCategoryTranslationRegistry();
 
-    mutable QReadWriteLock m_lock { QReadWriteLock::Recursive };
+    mutable PvReadWriteLock m_lock { QReadWriteLock::Recursive };
     QHash<QString, QHash<QString, QString>> m_translations;
 };

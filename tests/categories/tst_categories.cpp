@@ -142,7 +142,6 @@ void TestCategories::translation_data()
     QTest::newRow("unfinished counts") << "Anniversary" << german << "Jahrestag";
     QTest::newRow("second context ignored") << "Herbst" << german << "Herbst";
     QTest::newRow("unknown text unchanged") << "Unbekannt  Name" << german << "Unbekannt  Name";
-    QTest::newRow("other locale's table") << "Colour" << english << "Colour";
 }
 
 void TestCategories::translation()
@@ -312,7 +311,6 @@ void TestCategories::alphabetical_data()
     QTest::newRow("capital after user category") << early << Category::userCliparts() << false;
     QTest::newRow("lower case after user category") << Category(QStringLiteral("apfel")) << Category::userMask() << false;
     QTest::newRow("two user categories") << Category::userLayouts() << Category::userCliparts() << false;
-    QTest::newRow("plain names") << early << Category(QStringLiteral("Zebra")) << true;
     QTest::newRow("case-sensitive") << Category(QStringLiteral("Zebra")) << Category(QStringLiteral("apfel")) << true;
 }
 
@@ -334,11 +332,9 @@ void TestCategories::setQueries()
     QCOMPARE(csv.spotColor().value(), 0);
     QCOMPARE(CategorySet(Category::silver()).spotColor().value(), 4);
     QVERIFY(csv.containsOnlySpotColorCategories() && csv.contains(CategorySet()) && !csv.containsAtLeastOne(CategorySet()));
-
-    const CategorySet liked(QList<Category> { Category::favourites(), Category::suggestedByAI() });
-    QVERIFY(liked.containsOnlyFavouritesAnd(CategorySet()));
-    QVERIFY(csv.plusFavourites().contains(Category::favourites()) && !csv.contains(Category::favourites()));
+    QVERIFY(CategorySet(QList<Category> { Category::favourites(), Category::suggestedByAI() }).containsOnlyFavouritesAnd({}));
     QVERIFY(!csv.containsOnlyFavouritesAnd(CategorySet(Category::gold())));
+    QVERIFY(csv.plusFavourites().containsOnlyFavouritesAnd(csv));
 
     CategorySet various = csv;
     various.insertCategoryVarious();
@@ -351,9 +347,6 @@ void TestCategories::setQueries()
     QCOMPARE(various.subtract(csv).size(), 1);
 
     QVERIFY(Category(QStringLiteral("Mittig")).isSmartLayoutCategory());
-    QCOMPARE(CategorySet::categoriesWithIcon().size(), 13);
-    QVERIFY(CategorySet::allCategorySet().containsCategoryAll());
-    QCOMPARE(Category::categoryAll().internalName(), QStringLiteral("Alle anzeigen"));
 }
 
 void TestCategories::preferredCategory_data()
@@ -399,11 +392,9 @@ void TestCategories::listsAndXml()
     QDomElement parent = document.createElement(QStringLiteral("item"));
     const CategorySet set(QStringList { QStringLiteral("Rot"), QStringLiteral("Gold") });
     set.toXml(parent);
-    QStringList written;
-    for (QDomElement e = parent.firstChildElement(); !e.isNull(); e = e.nextSiblingElement())
-        written.append(e.tagName() + QLatin1Char(':') + e.text());
-    written.sort();
-    QCOMPARE(written, QStringList({ QStringLiteral("subcategory:Gold"), QStringLiteral("subcategory:Rot") }));
+    QCOMPARE(parent.elementsByTagName(QStringLiteral("subcategory")).size(), 2);
+    QCOMPARE(QSet<QString>({ parent.firstChild().toElement().text(), parent.lastChild().toElement().text() }),
+             QSet<QString>({ QStringLiteral("Gold"), QStringLiteral("Rot") }));
 
     QString text;
     QDebug(&text) << Category::gold();
@@ -439,7 +430,7 @@ void TestCategories::manyThreadsShareKeys()
                 const QString name = QStringLiteral("Parallel %1").arg(n);
                 keys[t][n] = int(Category(t % 2 ? name.toUpper() : name).hashValue());
                 // Readers and a writer of the translation lock, in and outside the registry's lock.
-                (void)Category::favourites().visibleName();
+                (void)Category::favourites().internalName();
                 (void)translations().humanReadable(Category(QStringLiteral("Wedding")));
                 if (t == 0)
                     translations().addTranslations(QStringLiteral("it_IT"), { { name, name } });

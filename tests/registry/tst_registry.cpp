@@ -10,11 +10,11 @@
 #include <QScopeGuard>
 #include <QSemaphore>
 #include <QTest>
-#include <QThread>
 
 #include <array>
 #include <atomic>
 #include <memory>
+#include <thread>
 
 namespace {
 // Loads fixture directories; only "products" holds files that do not load.
@@ -192,20 +192,19 @@ void TestRegistry::singletonLoadsOnce()
     QSemaphore ready;
     QSemaphore go;
     std::array<PvProductTypeConfigRegistry*, threadCount> seen {};
-    std::vector<std::unique_ptr<QThread>> threads;
+    std::vector<std::thread> threads; // joined, so that ThreadSanitizer sees the results handed over
     testHandler = qInstallMessageHandler(countUnopened);
     for (int i = 0; i < threadCount; ++i) {
-        threads.emplace_back(QThread::create([&, i] {
+        threads.emplace_back([&, i] {
             ready.release();
             go.acquire();
             seen[i] = &PvProductTypeConfigRegistry::instance();
-        }));
-        threads.back()->start();
+        });
     }
     ready.acquire(threadCount);
     go.release(threadCount);
     for (auto& thread : threads)
-        QVERIFY(thread->wait(10000));
+        thread.join();
     qInstallMessageHandler(testHandler);
 
     PvProductTypeConfigRegistry& registry = PvProductTypeConfigRegistry::instance();

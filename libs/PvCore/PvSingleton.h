@@ -4,6 +4,8 @@
 #include <QReadWriteLock>
 #include <QWriteLocker>
 
+#include <atomic>
+
 /*!
  * Lazily created, never destroyed process-wide instance of T. T befriends PvSingleton<T>
  * when its constructor is not public. setupInstance() runs once, right after construction,
@@ -17,16 +19,17 @@ public:
     {
         {
             QReadLocker reader(&s_lock);
-            if (s_instance)
-                return *s_instance;
+            if (T* existing = s_instance.load(std::memory_order_acquire))
+                return *existing;
         }
         QWriteLocker writer(&s_lock);
-        if (!s_instance) {
-            T* created = new T;
-            static_cast<PvSingleton<T>*>(created)->setupInstance();
-            s_instance = created;
+        T* existing = s_instance.load(std::memory_order_acquire);
+        if (!existing) {
+            existing = new T;
+            static_cast<PvSingleton<T>*>(existing)->setupInstance();
+            s_instance.store(existing, std::memory_order_release);
         }
-        return *s_instance;
+        return *existing;
     }
 
     PvSingleton(const PvSingleton&) = delete;
@@ -39,5 +42,7 @@ protected:
 
 private:
     static inline QReadWriteLock s_lock;
-    static inline T* s_instance = nullptr;
+    // Atomic although guarded: the lock lives in the uninstrumented Qt library, so only the
+    // acquire/release pair shows ThreadSanitizer that the instance is published safely.
+    static inline std::atomic<T*> s_instance { nullptr };
 };

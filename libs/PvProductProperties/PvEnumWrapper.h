@@ -76,7 +76,8 @@ public:
             return table;
         static QMutex theMutex;
         QMutexLocker locker(&theMutex);
-        Table* table = myTable.load(std::memory_order_relaxed);
+        // Acquire rather than relaxed: ThreadSanitizer cannot see the ordering of the Qt mutex.
+        Table* table = myTable.load(std::memory_order_acquire);
         if (!table) {
             auto* fresh = new Table; // never freed: values may outlive any owner
             try {

@@ -11,6 +11,7 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     initIdentity(product);
     initArticleClass(product);
     m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding")));
+    initReplacement(product);
 }
 
 PvProductTypeDescription::~PvProductTypeDescription() = default;
@@ -27,6 +28,12 @@ void PvProductTypeDescription::initArticleClass(const QDomElement& product)
     m_articleClass = PvArticleClass(PvXMLParser::attribute(product, QStringLiteral("class"), QStringLiteral("unknown"), true));
     if (m_articleClass.splitToBits().size() != 1)
         m_articleClass = PvArticleClass();
+}
+
+void PvProductTypeDescription::initReplacement(const QDomElement& product)
+{
+    m_replacedByProduct = PvProductType(PvXMLParser::attribute(product, QStringLiteral("replacedBy"), QString(), true));
+    m_conversionStrategy = PvXMLRewriterStrategy(PvXMLParser::attribute(product, QStringLiteral("conversionStrategy"), QString(), true));
 }
 
 bool PvProductTypeDescription::isValid() const

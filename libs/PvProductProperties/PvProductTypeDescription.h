@@ -3,6 +3,7 @@
 #include "PvArticleClass.h"
 #include "PvCoverType.h"
 #include "PvProductType.h"
+#include "PvXMLRewriterStrategy.h"
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
@@ -25,6 +26,10 @@ public:
     [[nodiscard]] PvCoverType coverType() const { return m_coverType; }
     [[nodiscard]] bool isVario() const { return m_isVario; }
     [[nodiscard]] bool isTwoSided() const { return m_isTwoSided; }
+    //! For a retired product: the product that replaces it; empty otherwise.
+    [[nodiscard]] PvProductType replacedByProduct() const { return m_replacedByProduct; }
+    //! For a retired product: how an old project is rewritten for its replacement.
+    [[nodiscard]] PvXMLRewriterStrategy conversionStrategy() const { return m_conversionStrategy; }
 
     /*!
      * A product needs exactly one article class and a cover type; only the "prints" class
@@ -38,10 +43,13 @@ public:
 private:
     void initIdentity(const QDomElement& product);
     void initArticleClass(const QDomElement& product);
+    void initReplacement(const QDomElement& product);
 
     PvProductType m_productType;
     PvArticleClass m_articleClass;
     PvCoverType m_coverType;
     bool m_isVario = false;
     bool m_isTwoSided = false;
+    PvProductType m_replacedByProduct;
+    PvXMLRewriterStrategy m_conversionStrategy;
 };

@@ -1,6 +1,8 @@
 #include "PvXMLParser.h"
 
+#include <algorithm>
 #include <climits>
+#include <cmath>
 
 namespace {
 std::optional<double> doubleOf(const QDomElement& element, const QString& name)
@@ -26,9 +28,17 @@ double coordinate(const QDomElement& element, const char* name)
     return doubleOf(element, QLatin1String(name)).value_or(0.0);
 }
 
+// Product files are data from outside: a coordinate beyond int or not finite must not overflow.
+int clampedRound(double value)
+{
+    if (!std::isfinite(value))
+        return 0;
+    return qRound(std::clamp(value, double(INT_MIN), double(INT_MAX)));
+}
+
 int intCoordinate(const QDomElement& element, const char* name)
 {
-    return qRound(coordinate(element, name));
+    return clampedRound(coordinate(element, name));
 }
 }
 
@@ -69,7 +79,7 @@ double PvXMLParser::doubleAttribute(const QDomElement& element, const QString& n
 int PvXMLParser::readAngle(const QDomElement& element, const QString& name, int defaultDegrees)
 {
     const std::optional<double> degrees = doubleOf(element, name);
-    if (!degrees || *degrees > INT_MAX || *degrees < INT_MIN)
+    if (!degrees || !std::isfinite(*degrees) || *degrees > INT_MAX || *degrees < INT_MIN)
         return defaultDegrees;
     return qRound(*degrees);
 }

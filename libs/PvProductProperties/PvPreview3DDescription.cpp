@@ -1,0 +1,140 @@
+#include "PvPreview3DDescription.h"
+
+#include "PvBasisSettings.h"
+#include "PvXMLParser.h"
+
+#include <QCoreApplication>
+#include <QSharedData>
+#include <QUrlQuery>
+#include <QVector3D>
+
+namespace {
+struct Camera
+{
+    QVector3D position;
+    QVector3D lookAt;
+};
+
+Camera readCamera(const QDomElement& element)
+{
+    return { PvXMLParser::readVector3D(element.firstChildElement(QStringLiteral("position"))),
+        PvXMLParser::readVector3D(element.firstChildElement(QStringLiteral("lookAt"))) };
+}
+
+QString numberText(float value)
+{
+    return QString::number(double(value), 'g', 6);
+}
+
+// Encoded here so that "+" in exponents reaches the page as "+", not as a blank.
+void addItem(QUrlQuery& query, const QString& key, const QString& value)
+{
+    query.addQueryItem(key, QString::fromLatin1(QUrl::toPercentEncoding(value)));
+}
+}
+
+class PvPreview3DDescriptionImpl : public QSharedData
+{
+public:
+    void readMesh(const QDomElement& element);
+
+    bool flipY = false;
+    bool flipX = false;
+    int pagesPer3DModel = 0;
+    QRectF cupRingRect { 0, 0, 0, 0 };
+    QString mesh;
+    Camera camera;
+    Camera cameraBig;
+    QList<PvTextureTarget> textureTargets;
+    QSize windowSize { -1, -1 };
+};
+
+void PvPreview3DDescriptionImpl::readMesh(const QDomElement& element)
+{
+    mesh = PvXMLParser::attribute(element, QStringLiteral("file"));
+    flipY = PvXMLParser::boolAttribute(element, QStringLiteral("flipY"), false);
+    flipX = PvXMLParser::boolAttribute(element, QStringLiteral("flipX"), false);
+    pagesPer3DModel = mesh.isEmpty() ? 0 : PvXMLParser::intAttribute(element, QStringLiteral("pagesPer3DModel"), 1);
+}
+
+PvPreview3DDescription::PvPreview3DDescription()
+    : d(new PvPreview3DDescriptionImpl)
+{
+}
+
+PvPreview3DDescription::PvPreview3DDescription(const QDomElement& product)
+    : d(new PvPreview3DDescriptionImpl)
+{
+    init(product);
+}
+
+PvPreview3DDescription::PvPreview3DDescription(const PvPreview3DDescription& other) = default;
+PvPreview3DDescription::PvPreview3DDescription(PvPreview3DDescription&& other) noexcept = default;
+PvPreview3DDescription& PvPreview3DDescription::operator=(const PvPreview3DDescription& other) = default;
+PvPreview3DDescription& PvPreview3DDescription::operator=(PvPreview3DDescription&& other) noexcept = default;
+PvPreview3DDescription::~PvPreview3DDescription() = default;
+
+void PvPreview3DDescription::init(const QDomElement& product)
+{
+    const QString previewName = QStringLiteral("preview3D");
+    const bool isPreview = product.tagName() == previewName;
+    const QDomElement preview = isPreview ? product : product.firstChildElement(previewName);
+    const QDomElement owner = isPreview ? product.parentNode().toElement() : product;
+
+    d.reset(new PvPreview3DDescriptionImpl);
+    d->readMesh(preview.firstChildElement(QStringLiteral("mesh")));
+    d->cupRingRect = PvXMLParser::readRectF(preview.firstChildElement(QStringLiteral("cupRing")), QRectF(0, 0, 0, 0));
+    const QString targetName = QStringLiteral("textureTarget");
+    for (QDomElement target = preview.firstChildElement(targetName); !target.isNull(); target = target.nextSiblingElement(targetName))
+        d->textureTargets.append(PvTextureTarget(target));
+    d->camera = readCamera(preview.firstChildElement(QStringLiteral("camera")));
+    d->cameraBig = readCamera(preview.firstChildElement(QStringLiteral("cameraBig")));
+    d->windowSize = PvXMLParser::readSize(preview.firstChildElement(QStringLiteral("windowSize")), QSize(-1, -1));
+
+    if (!d->mesh.isEmpty() && d->textureTargets.isEmpty()) {
+        qWarning().noquote() << QStringLiteral("3D preview of product \"%1\" has a mesh but no textureTarget; the product gets no 3D preview.")
+                                    .arg(PvXMLParser::attribute(owner, QStringLiteral("name")));
+        d->mesh.clear();
+        d->pagesPer3DModel = 0;
+    }
+}
+
+QString PvPreview3DDescription::mesh() const { return d->mesh; }
+QList<PvTextureTarget> PvPreview3DDescription::textureTargets() const { return d->textureTargets; }
+QRectF PvPreview3DDescription::cupRingRect() const { return d->cupRingRect; }
+int PvPreview3DDescription::pagesPer3DModel() const { return d->pagesPer3DModel; }
+QSize PvPreview3DDescription::windowSize() const { return d->windowSize; }
+
+QUrl PvPreview3DDescription::url(bool big) const
+{
+    if (d->mesh.isEmpty())
+        return QUrl();
+
+    QUrl url;
+    if (PvBasisSettings::instance().webEngineType() & 24) {
+        url.setScheme(QStringLiteral("http"));
+        url.setHost(QStringLiteral("localhost"));
+    } else {
+        url.setScheme(QStringLiteral("kvp"));
+    }
+    url.setPath(QStringLiteral("/threejs/productpreview/index.html"));
+
+    const Camera& camera = big ? d->cameraBig : d->camera;
+    QUrlQuery query;
+    addItem(query, QStringLiteral("mesh"), d->mesh);
+    if (d->flipY)
+        addItem(query, QStringLiteral("flipY"), QStringLiteral("true"));
+    if (d->flipX)
+        addItem(query, QStringLiteral("flipX"), QStringLiteral("true"));
+    addItem(query, QStringLiteral("cx"), numberText(camera.position.x()));
+    addItem(query, QStringLiteral("cy"), numberText(camera.position.y()));
+    addItem(query, QStringLiteral("cz"), numberText(camera.position.z()));
+    addItem(query, QStringLiteral("ax"), numberText(camera.lookAt.x()));
+    addItem(query, QStringLiteral("ay"), numberText(camera.lookAt.y()));
+    addItem(query, QStringLiteral("az"), numberText(camera.lookAt.z()));
+    addItem(query, QStringLiteral("title"), QCoreApplication::translate("PvPreview3DDescription", "Produktvorschau"));
+    // A mesh always comes with a target: init() drops meshes without one.
+    addItem(query, QStringLiteral("targetMesh"), d->textureTargets.constFirst().name());
+    url.setQuery(query);
+    return url;
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "PvInitializerAbstract.h"
+#include "pvproductproperties_export.h"
+
+/*!
+ * The library's start-up hook: creates the product type registry and makes it one of the
+ * application's product checkers. Registered with PvInitializer when the library is loaded.
+ */
+class PVPRODUCTPROPERTIES_EXPORT PvProductPropertiesInitializer : public PvInitializerAbstract
+{
+public:
+    void setup(PvInitializerOption option) override;
+    void teardown() override;
+};

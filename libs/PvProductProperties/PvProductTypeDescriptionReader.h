@@ -1,0 +1,40 @@
+#pragma once
+
+#include "PvProductType.h"
+#include "pvproductproperties_export.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHash>
+#include <QStringList>
+
+class PvProductTypeDescription;
+
+/*!
+ * Turns the product files of one products directory into product type descriptions. It
+ * knows nothing of other directories; merging them is the registry's business.
+ */
+class PVPRODUCTPROPERTIES_EXPORT PvProductTypeDescriptionReader
+{
+public:
+    explicit PvProductTypeDescriptionReader(const QDir& dir);
+    virtual ~PvProductTypeDescriptionReader();
+
+    /*!
+     * One description per loadable file of the directory, keyed by product type; the caller
+     * owns them. Every file is tried, whatever its name; when two files declare the same
+     * product type, the one later in file-name order wins.
+     */
+    [[nodiscard]] QHash<PvProductType, PvProductTypeDescription*> readDir() const;
+    /*!
+     * A new description from the first "product" element of the file, owned by the caller;
+     * null with a warning when the file does not load as XML. A file without a "product"
+     * element still yields a description, with every value at its default.
+     */
+    [[nodiscard]] PvProductTypeDescription* readFile(const QFileInfo& fileInfo) const;
+    //! The name filter of product files, for callers that list them themselves.
+    [[nodiscard]] static QStringList fileFilter();
+
+private:
+    QDir m_dir;
+};

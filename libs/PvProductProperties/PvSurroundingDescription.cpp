@@ -1,0 +1,168 @@
+#include "PvSurroundingDescription.h"
+
+#include "PvSurroundingKey.h"
+#include "PvXMLParser.h"
+
+#include <QDomAttr>
+#include <QDomDocument>
+#include <QHashFunctions>
+#include <QSharedData>
+#include <QStringList>
+
+#include <climits>
+#include <tuple>
+
+class PvSurroundingDescriptionImpl : public QSharedData
+{
+public:
+    void readAttributes(const QDomElement& element);
+    void readChildren(const QDomElement& element);
+
+    auto fields() const
+    {
+        return std::tie(productType, surroundingType, pageType, alignment, pageNr, paintOnTop, canBeHiddenByUser,
+            hideGrafikInPreview, image, imageSpotColor, editableArea, hasBindingShade, hasSpineFold, spineFoldWidth,
+            calendarHoleConfig, spiralConfig, variant, tileWidth, tileHeight);
+    }
+
+    PvProductType productType;
+    PvSurroundingType surroundingType;
+    PvPageType pageType;
+    PvPageAlignment alignment;
+    int pageNr = -1;
+    bool paintOnTop = true;
+    bool canBeHiddenByUser = false;
+    bool hideGrafikInPreview = false;
+    QString image;
+    QString imageSpotColor;
+    QRect editableArea;
+    bool hasBindingShade = false;
+    bool hasSpineFold = false;
+    int spineFoldWidth = 0;
+    PvCalendarHoleConfig calendarHoleConfig;
+    PvSpiralConfig spiralConfig;
+    PvArticleVariants variant;
+    int tileWidth = -1;
+    int tileHeight = -1;
+};
+
+void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
+{
+    // Note the all-lower-case names among the camel-case ones: files spell them so.
+    surroundingType = PvSurroundingType(PvXMLParser::attribute(element, QStringLiteral("type"), QStringLiteral("book")));
+    pageType = PvPageType(PvXMLParser::attribute(element, QStringLiteral("pageType"), QStringLiteral("all")));
+    alignment = PvPageAlignment(PvXMLParser::attribute(element, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle")));
+    pageNr = PvXMLParser::intAttribute(element, QStringLiteral("pageNr"), -1);
+    paintOnTop = PvXMLParser::boolAttribute(element, QStringLiteral("paintOnTop"), true);
+    canBeHiddenByUser = PvXMLParser::boolAttribute(element, QStringLiteral("canBeHiddenByUser"), false);
+    hideGrafikInPreview = PvXMLParser::boolAttribute(element, QStringLiteral("hideGrafikInPreview"), false);
+    image = PvXMLParser::attribute(element, QStringLiteral("image"));
+    imageSpotColor = PvXMLParser::attribute(element, QStringLiteral("imageSpotColor"));
+    editableArea = PvXMLParser::readRect(element);
+    hasBindingShade = PvXMLParser::boolAttribute(element, QStringLiteral("hasbindingshade"), false);
+    hasSpineFold = PvXMLParser::boolAttribute(element, QStringLiteral("hasspinefold"), false);
+    spineFoldWidth = PvXMLParser::intAttribute(element, QStringLiteral("spinefoldwidth"), 0);
+    variant = PvArticleVariants(PvXMLParser::attribute(element, QStringLiteral("variant")));
+    tileWidth = PvXMLParser::intAttribute(element, QStringLiteral("tileWidth"), -1);
+    tileHeight = PvXMLParser::intAttribute(element, QStringLiteral("tileHeight"), -1);
+
+    // A frame goes round every page, whatever the file restricts it to.
+    if (surroundingType == PvSurroundingTypeFrame) {
+        pageType = PvPageType(PvPageTypeAll);
+        alignment = PvPageAlignment(PvPageAlignmentEnum(127));
+        pageNr = -1;
+    }
+}
+
+void PvSurroundingDescriptionImpl::readChildren(const QDomElement& element)
+{
+    calendarHoleConfig = PvCalendarHoleConfig(element.firstChildElement(QStringLiteral("hole")));
+    spiralConfig = PvSpiralConfig(element.firstChildElement(QStringLiteral("spirals")));
+}
+
+PvSurroundingDescription::PvSurroundingDescription()
+    : d(new PvSurroundingDescriptionImpl)
+{
+}
+
+PvSurroundingDescription::PvSurroundingDescription(const PvProductType& productType, const QDomElement& element)
+    : PvSurroundingDescription(productType, element, element.attributes())
+{
+}
+
+PvSurroundingDescription::PvSurroundingDescription(const PvProductType& productType, const QDomElement& element, const QDomNamedNodeMap& attributes)
+    : d(new PvSurroundingDescriptionImpl)
+{
+    // The typed readers take elements, so the attributes are carried over into a scratch one.
+    QDomDocument scratch;
+    QDomElement carrier = scratch.createElement(QStringLiteral("surrounding"));
+    for (int i = 0; i < attributes.count(); ++i) {
+        const QDomAttr attribute = attributes.item(i).toAttr();
+        if (!attribute.isNull())
+            carrier.setAttribute(attribute.name(), attribute.value());
+    }
+    d->productType = productType;
+    d->readAttributes(carrier);
+    d->readChildren(element);
+}
+
+PvSurroundingDescription::PvSurroundingDescription(const PvSurroundingDescription& other) = default;
+PvSurroundingDescription::PvSurroundingDescription(PvSurroundingDescription&& other) noexcept = default;
+PvSurroundingDescription& PvSurroundingDescription::operator=(const PvSurroundingDescription& other) = default;
+PvSurroundingDescription& PvSurroundingDescription::operator=(PvSurroundingDescription&& other) noexcept = default;
+PvSurroundingDescription::~PvSurroundingDescription() = default;
+
+bool PvSurroundingDescription::isSuitable(const PvSurroundingKey& key) const
+{
+    const PvSurroundingKey own(PvPageContext(d->pageType, d->alignment), d->pageNr, d->variant);
+    return own.isOkayFor(key);
+}
+
+PvProductType PvSurroundingDescription::productType() const { return d->productType; }
+PvSurroundingType PvSurroundingDescription::surroundingType() const { return d->surroundingType; }
+PvPageType PvSurroundingDescription::pageTypes() const { return d->pageType; }
+PvPageAlignment PvSurroundingDescription::alignments() const { return d->alignment; }
+int PvSurroundingDescription::pageNr() const { return d->pageNr; }
+PvArticleVariants PvSurroundingDescription::variant() const { return d->variant; }
+bool PvSurroundingDescription::paintOnTop() const { return d->paintOnTop; }
+bool PvSurroundingDescription::canBeHiddenByUser() const { return d->canBeHiddenByUser; }
+bool PvSurroundingDescription::hideGrafikInPreview() const { return d->hideGrafikInPreview; }
+QString PvSurroundingDescription::imageResource() const { return d->image; }
+QString PvSurroundingDescription::imageResourceSpotColor() const { return d->imageSpotColor; }
+bool PvSurroundingDescription::hasBindingShade() const { return d->hasBindingShade; }
+QRect PvSurroundingDescription::editableArea() const { return d->editableArea; }
+PvCalendarHoleConfig PvSurroundingDescription::calendarHoleConfig() const { return d->calendarHoleConfig; }
+PvSpiralConfig PvSurroundingDescription::spiralConfig() const { return d->spiralConfig; }
+QSize PvSurroundingDescription::tileSize() const { return QSize(d->tileWidth, d->tileHeight); }
+bool PvSurroundingDescription::hasSpineFold() const { return d->hasSpineFold && d->spineFoldWidth > 0; }
+int PvSurroundingDescription::spineFoldWidth() const { return d->spineFoldWidth; }
+
+int PvSurroundingDescription::spineFoldWithSafetyMargins() const
+{
+    // Clamped: a width near the int limit in a file must not overflow.
+    return int(qBound(double(INT_MIN), d->spineFoldWidth * 1.2, double(INT_MAX)));
+}
+
+size_t PvSurroundingDescription::hashValue() const
+{
+    return qHash(d->pageNr, 0) ^ d->surroundingType.toUnderlying() ^ d->pageType.toUnderlying() ^ d->alignment.toUnderlying();
+}
+
+bool PvSurroundingDescription::operator==(const PvSurroundingDescription& other) const
+{
+    return d == other.d || d->fields() == other.d->fields();
+}
+
+QList<QRect> PvSurroundingDescription::parseMask(const QString& text)
+{
+    QList<QRect> rectangles;
+    const QStringList groups = text.split(QLatin1Char(';'));
+    for (const QString& group : groups) {
+        const QStringList numbers = group.split(QLatin1Char(' '));
+        if (numbers.size() != 4)
+            break;
+        rectangles.append(QRect(QPoint(numbers[0].toInt(nullptr, 10), numbers[1].toInt(nullptr, 10)),
+            QPoint(numbers[2].toInt(nullptr, 10), numbers[3].toInt(nullptr, 10))));
+    }
+    return rectangles;
+}

@@ -1,0 +1,31 @@
+#include "PvSurroundingDescriptionList.h"
+
+#include "PvSurroundingKey.h"
+
+#include <algorithm>
+
+PvSurroundingDescriptionList::PvSurroundingDescriptionList(const PvProductType& productType, const QDomElement& product)
+{
+    const QString blockName = QStringLiteral("surroundings");
+    const QString itemName = QStringLiteral("surrounding");
+    for (QDomElement block = product.firstChildElement(blockName); !block.isNull(); block = block.nextSiblingElement(blockName)) {
+        for (QDomElement item = block.firstChildElement(itemName); !item.isNull(); item = item.nextSiblingElement(itemName))
+            append(PvSurroundingDescription(productType, item));
+    }
+}
+
+PvSurroundingDescription PvSurroundingDescriptionList::findDescription(const PvSurroundingKey& key) const
+{
+    const auto firstSuitable = [this](const PvSurroundingKey& wanted) {
+        return std::find_if(cbegin(), cend(), [&wanted](const PvSurroundingDescription& d) { return d.isSuitable(wanted); });
+    };
+    auto found = firstSuitable(key);
+    if (found == cend() && key.variant().isValid())
+        found = firstSuitable(PvSurroundingKey(key.pageContext(), key.pageIndex(), PvArticleVariants()));
+    return found == cend() ? PvSurroundingDescription() : *found;
+}
+
+bool PvSurroundingDescriptionList::hasSurroundingWithBindingShade() const
+{
+    return std::any_of(cbegin(), cend(), [](const PvSurroundingDescription& d) { return d.hasBindingShade(); });
+}

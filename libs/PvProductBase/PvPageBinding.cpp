@@ -1,7 +1,5 @@
 #include "PvPageBinding.h"
 
-#include <QCoreApplication>
-
 PvPageBinding::PvPageBinding(PvPageBindingEnum value) noexcept
     : PvEnumWrapper(value)
 {
@@ -23,12 +21,7 @@ void PvPageBinding::fillTable(Table* table) const
 }
 
 namespace {
-struct NameRow {
-    PvPageBindingEnum value;
-    const char* name;
-};
-
-constexpr NameRow names[] = {
+constexpr std::pair<PvPageBindingEnum, const char*> names[] = {
     { PvPageBindingPerfect, QT_TRANSLATE_NOOP("PvPageBinding", "Klebebindung") },
     { PvPageBindingLayflat, QT_TRANSLATE_NOOP("PvPageBinding", "Layflat-Bindung") },
     { PvPageBindingThread, QT_TRANSLATE_NOOP("PvPageBinding", "Fadenheftung") },
@@ -38,9 +31,5 @@ constexpr NameRow names[] = {
 
 QString PvPageBinding::humanReadableName() const
 {
-    for (const NameRow& row : names) {
-        if (row.value == m_value)
-            return QCoreApplication::translate("PvPageBinding", row.name);
-    }
-    return {};
+    return pvTranslatedText("PvPageBinding", names, m_value);
 }

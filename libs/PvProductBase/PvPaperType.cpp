@@ -1,7 +1,5 @@
 #include "PvPaperType.h"
 
-#include <QCoreApplication>
-
 PvPaperType::PvPaperType(PvPaperTypeEnum value) noexcept
     : PvEnumWrapper(value)
 {
@@ -27,12 +25,7 @@ void PvPaperType::fillTable(Table* table) const
 }
 
 namespace {
-struct NameRow {
-    PvPaperTypeEnum value;
-    const char* name;
-};
-
-constexpr NameRow names[] = {
+constexpr std::pair<PvPaperTypeEnum, const char*> names[] = {
     { PvPaperTypeDigitalMatt, QT_TRANSLATE_NOOP("PvPaperType", "Digitaldruck Matt") },
     { PvPaperTypeDigitalGlossy, QT_TRANSLATE_NOOP("PvPaperType", "Digitaldruck Glänzend") },
     { PvPaperTypeOffsetMatt, QT_TRANSLATE_NOOP("PvPaperType", "Offsetdruck Matt") },
@@ -46,9 +39,5 @@ constexpr NameRow names[] = {
 
 QString PvPaperType::humanReadableName() const
 {
-    for (const NameRow& row : names) {
-        if (row.value == m_value)
-            return QCoreApplication::translate("PvPaperType", row.name);
-    }
-    return {};
+    return pvTranslatedText("PvPaperType", names, m_value);
 }

@@ -2,6 +2,7 @@
 
 #include "PvEnumToStringTable.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QDebugStateSaver>
 #include <QMutex>
@@ -9,6 +10,7 @@
 #include <QSet>
 
 #include <atomic>
+#include <utility>
 
 /*!
  * Base of every enumerated value of product files: a bit set of the flag enumeration T with
@@ -128,4 +130,18 @@ inline QDebug operator<<(QDebug debug, const PvEnumWrapper<T>& wrapper)
     const QDebugStateSaver saver(debug);
     debug.nospace() << wrapper.encodeCSV() << '(' << Qt::hex << Qt::showbase << wrapper.toUnderlying() << ')';
     return debug;
+}
+
+/*!
+ * The text of the row whose value is exactly \a value, translated in \a context; empty when
+ * no row has it. For display names of single values; combinations have none.
+ */
+template <typename T, std::size_t N>
+QString pvTranslatedText(const char* context, const std::pair<T, const char*> (&rows)[N], T value)
+{
+    for (const auto& [rowValue, text] : rows) {
+        if (rowValue == value)
+            return QCoreApplication::translate(context, text);
+    }
+    return {};
 }

@@ -2,8 +2,6 @@
 
 #include "PvJigTypeList.h"
 
-#include <QCoreApplication>
-
 PvJigType::PvJigType(PvJigTypeEnum value) noexcept
     : PvEnumWrapper(value)
 {
@@ -43,12 +41,7 @@ void PvJigType::fillTable(Table* table) const
 }
 
 namespace {
-struct NameRow {
-    PvJigTypeEnum value;
-    const char* name;
-};
-
-constexpr NameRow displayNames[] = {
+constexpr std::pair<PvJigTypeEnum, const char*> displayNames[] = {
     { PvJigTypeBackground, QT_TRANSLATE_NOOP("PvJigType", "Hintergrund") },
     { PvJigTypeClipart, QT_TRANSLATE_NOOP("PvJigType", "Clipart") },
     { PvJigTypeContent, QT_TRANSLATE_NOOP("PvJigType", "Design") },
@@ -65,11 +58,7 @@ constexpr NameRow displayNames[] = {
 
 QString PvJigType::describe() const
 {
-    for (const NameRow& row : displayNames) {
-        if (row.value == m_value)
-            return QCoreApplication::translate("PvJigType", row.name);
-    }
-    return {};
+    return pvTranslatedText("PvJigType", displayNames, m_value);
 }
 
 const QHash<PvJigTypeEnum, PvDlpTypeEnum>& PvJigType::jigToDlpEnumHash()

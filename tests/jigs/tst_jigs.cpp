@@ -2,6 +2,7 @@
 #include "PvDateRangeConstraint.h"
 #include "PvJigEditorAbilities.h"
 #include "PvJigType.h"
+#include "PvProductEditorAbilities.h"
 
 #include <QDomDocument>
 #include <QRegularExpression>
@@ -37,6 +38,9 @@ private Q_SLOTS:
     void dateQueries();
     void redirects_data();
     void redirects();
+    void editorAbilities_data();
+    void editorAbilities();
+    void editorAbilitiesEquality();
 };
 
 void TestJigs::abilities_data()
@@ -193,4 +197,66 @@ void TestJigs::redirects()
 }
 
 QTEST_GUILESS_MAIN(TestJigs)
+void TestJigs::editorAbilities_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<QString>("summary");
+    QTest::addColumn<QStringList>("pageCategories");
+
+    // summary: assistant, convertable, naming style, start page, button, backgrounds enabled,
+    // rotatable, full on each page, cliparts need the exact article
+    QTest::newRow("empty element") << "<editorAbilities/>" << "0 1 0 0 0 1 0 1 0" << QStringList();
+    QTest::newRow("other tag gives defaults") << "<abilities convertable='false'><assistant enabled='true'/></abilities>" << "0 1 0 0 0 1 0 1 0" << QStringList();
+    QTest::newRow("only convertable") << "<editorAbilities convertable='false'/>" << "0 0 0 0 0 1 0 1 0" << QStringList();
+    QTest::newRow("button on the wrong element") << "<editorAbilities showChangeBaseDesignButton='true'><jigs/></editorAbilities>" << "0 1 0 0 0 1 0 1 0" << QStringList();
+    QTest::newRow("everything")
+        << "<editorAbilities><assistant enabled='1'/><pageNamingStyle> calendar </pageNamingStyle><startPage>3</startPage>"
+           "<jigs showChangeBaseDesignButton='true'><Hintergrund rotatable='true' fullOnEachPage='false'>"
+           "<categories pageType='page'>Natur,Urlaub</categories></Hintergrund><cliparts exactArticle='true'/><!-- note --><unknownjig enabled='false'/></jigs></editorAbilities>"
+        << "1 1 2 3 1 1 1 0 1" << QStringList { QStringLiteral("Natur"), QStringLiteral("Urlaub") };
+    QTest::newRow("later jig element wins")
+        << "<editorAbilities><jigs><background rotatable='true'><categories pageType='page'>Natur</categories></background>"
+           "<backgrounds enabled='false'/></jigs></editorAbilities>"
+        << "0 1 0 0 0 0 0 1 0" << QStringList();
+}
+
+void TestJigs::editorAbilities()
+{
+    QFETCH(QString, xml);
+    QFETCH(QString, summary);
+    QFETCH(QStringList, pageCategories);
+
+    const PvProductEditorAbilities abilities(element(xml));
+    const QStringList values = {
+        QString::number(abilities.hasAssistant()), QString::number(abilities.isConvertable()),
+        QString::number(abilities.pageNamingStyle().toUnderlying()), QString::number(abilities.editorStartPage()),
+        QString::number(abilities.showChangeBaseDesignButton()), QString::number(abilities.isJigEnabled(PvJigType(PvJigTypeBackground))),
+        QString::number(abilities.canRotateBackgrounds()), QString::number(abilities.fullBackgroundOnEachPage()),
+        QString::number(abilities.requiresExactArticle(PvJigType(PvJigTypeClipart))),
+    };
+    QCOMPARE(values.join(QLatin1Char(' ')), summary);
+    QVERIFY(abilities.isJigEnabled(PvJigType(PvJigTypeLayout)));
+
+    QStringList categories = abilities.allowedCategories(PvJigType(PvJigTypeBackground), PvPageType(PvPageTypePage)).toDataStringList();
+    categories.sort();
+    QCOMPARE(categories, pageCategories);
+    // Lists are kept per single page type: a combined type, another page or another jig finds none.
+    QVERIFY(abilities.allowedCategories(PvJigType(PvJigTypeBackground), PvPageType(PvPageTypePageLeft)).isEmpty());
+    QVERIFY(abilities.allowedCategories(PvJigType(PvJigTypeBackground), PvPageType(PvPageTypeCover)).isEmpty());
+    QVERIFY(abilities.allowedCategories(PvJigType(PvJigTypeClipart), PvPageType(PvPageTypePage)).isEmpty());
+}
+
+void TestJigs::editorAbilitiesEquality()
+{
+    const PvProductEditorAbilities plain(element(QStringLiteral("<editorAbilities/>")));
+    const PvProductEditorAbilities tilted(element(QStringLiteral(
+        "<editorAbilities><pageTilt disabled='true'/><dateRangeConstraint isEnforced='true' maximumFromCurrentYear='2'/></editorAbilities>")));
+    QVERIFY(tilted.userPageTiltConfig().isPageRotationDisabled(4));
+    QVERIFY(tilted.dateRangeConstraint().enforce());
+    QCOMPARE(plain, tilted);
+    QCOMPARE(plain, PvProductEditorAbilities());
+    QVERIFY(plain != PvProductEditorAbilities(element(QStringLiteral("<editorAbilities><jigs><layout enabled='false'/></jigs></editorAbilities>"))));
+    QVERIFY(plain != PvProductEditorAbilities(element(QStringLiteral("<editorAbilities><startPage>2</startPage></editorAbilities>"))));
+}
+
 #include "tst_jigs.moc"

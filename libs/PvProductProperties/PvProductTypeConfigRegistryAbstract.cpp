@@ -116,6 +116,27 @@ PvConfiguredArticleVariantList PvProductTypeConfigRegistryAbstract::variants(con
     return description(type)->variants();
 }
 
+bool PvProductTypeConfigRegistryAbstract::fullBackgroundOnEachPage(const PvProductType& type) const
+{
+    return description(type)->putFullBackgroundOnEachPage();
+}
+
+bool PvProductTypeConfigRegistryAbstract::limitJigCategories(const PvProductType& type, const PvPageType& pageType, const PvJigType& jigType) const
+{
+    return description(type)->limitJigCategories(pageType, jigType);
+}
+
+PvThematicCategorySet PvProductTypeConfigRegistryAbstract::allowedJigCategories(const PvProductType& type, const PvPageType& pageType,
+                                                                                const PvJigType& jigType) const
+{
+    return description(type)->allowedJigCategories(pageType, jigType);
+}
+
+bool PvProductTypeConfigRegistryAbstract::thereIsOnlyOneAllowedBackgroundCategory(const PvProductType& type, const PvPageType& pageType) const
+{
+    return description(type)->allowedJigCategories(pageType, PvJigType(PvJigTypeBackground)).size() == 1;
+}
+
 QList<int> PvProductTypeConfigRegistryAbstract::productionNumberingList(const PvProductType& type, int pageCount) const
 {
     return description(type)->productionNumberingList(pageCount);

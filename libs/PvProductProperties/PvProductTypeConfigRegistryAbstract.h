@@ -4,11 +4,13 @@
 #include "PvConfiguredArticleVariantList.h"
 #include "PvCoverType.h"
 #include "PvEmptyMeansAllSet.h"
+#include "PvJigType.h"
 #include "PvPageTypeList.h"
 #include "PvProductChecker.h"
 #include "PvProductClassificationManager.h"
 #include "PvProductType.h"
 #include "PvProductTypeList.h"
+#include "PvThematicCategorySet.h"
 #include "pvproductproperties_export.h"
 
 #include <QDir>
@@ -57,10 +59,17 @@ public:
 
     [[nodiscard]] bool horizontalPages(const PvProductType& type) const;
     [[nodiscard]] PvConfiguredArticleVariantList variants(const PvProductType& type) const;
+    [[nodiscard]] bool fullBackgroundOnEachPage(const PvProductType& type) const;
     //! The production numbers of a project of \a pageCount pages; see the description's.
     [[nodiscard]] QList<int> productionNumberingList(const PvProductType& type, int pageCount) const;
     //! The concrete page list of a project of \a pageCount pages; a negative count counts as 0.
     [[nodiscard]] PvPageTypeList pageTypes(const PvProductType& type, int pageCount) const;
+    //! Whether the product limits the categories of \a jigType on \a pageType at all.
+    [[nodiscard]] bool limitJigCategories(const PvProductType& type, const PvPageType& pageType, const PvJigType& jigType) const;
+    //! The categories allowed for \a jigType on \a pageType; empty when not limited.
+    [[nodiscard]] PvThematicCategorySet allowedJigCategories(const PvProductType& type, const PvPageType& pageType, const PvJigType& jigType) const;
+    //! Whether backgrounds on \a pageType are limited to exactly one category.
+    [[nodiscard]] bool thereIsOnlyOneAllowedBackgroundCategory(const PvProductType& type, const PvPageType& pageType) const;
 
     /*!
      * The loaded products whose article class and cover type the filters accept. Both filters

@@ -49,6 +49,7 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     m_extraProductionContents = PvProductionExtraPageGroupList(child(product, "extra_production_pages"));
     m_foldSafetyMargin = decodeFoldSafetyMargin(product);
     initReplacement(product);
+    m_editorAbilities = PvProductEditorAbilities(child(product, "editorAbilities"));
     initPricListCategories(product);
     initbarcodeDefinitions(product);
     initPreview3D(product);
@@ -314,6 +315,78 @@ int PvProductTypeDescription::contentDropRedirect(int page) const
 QString PvProductTypeDescription::findDefaultTemplate(const PvDefaultTemplateKey& key) const
 {
     return m_defaultTemplates.findTemplate(key);
+}
+
+bool PvProductTypeDescription::hasAssistant() const
+{
+    return m_editorAbilities.hasAssistant();
+}
+
+bool PvProductTypeDescription::isConvertable() const
+{
+    return m_editorAbilities.isConvertable();
+}
+
+PvPageNamingStyle PvProductTypeDescription::pageNamingStyle() const
+{
+    return m_editorAbilities.pageNamingStyle();
+}
+
+bool PvProductTypeDescription::showChangeDesignButton() const
+{
+    return m_editorAbilities.showChangeBaseDesignButton();
+}
+
+bool PvProductTypeDescription::canRotateBackgrounds() const
+{
+    return m_editorAbilities.canRotateBackgrounds();
+}
+
+int PvProductTypeDescription::editorStartPage() const
+{
+    return m_editorAbilities.editorStartPage();
+}
+
+bool PvProductTypeDescription::putFullBackgroundOnEachPage() const
+{
+    return m_editorAbilities.fullBackgroundOnEachPage();
+}
+
+bool PvProductTypeDescription::requiresExactArticle(const PvJigType& jigType) const
+{
+    return m_editorAbilities.requiresExactArticle(jigType);
+}
+
+bool PvProductTypeDescription::supportsJigType(const PvJigType& jigType) const
+{
+    return m_editorAbilities.isJigEnabled(jigType);
+}
+
+PvDateRangeConstraint PvProductTypeDescription::dateRangeContraint() const
+{
+    return m_editorAbilities.dateRangeConstraint();
+}
+
+bool PvProductTypeDescription::userPageTiltAllowed(const int& page) const
+{
+    return !m_editorAbilities.userPageTiltConfig().isPageRotationDisabled(page);
+}
+
+bool PvProductTypeDescription::contentAllowedOnPage(int page) const
+{
+    if (!m_editorAbilities.isJigEnabled(PvJigType(PvJigTypeContent)))
+        return false;
+    return m_pagesWithContent.isEmpty() || m_pagesWithContent.contains(page);
+}
+
+PvThematicCategorySet PvProductTypeDescription::allowedJigCategories(const PvPageType& pageType, const PvJigType& jigType) const
+{
+    return m_editorAbilities.allowedCategories(jigType, pageType);
+}
+
+bool PvProductTypeDescription::limitJigCategories(const PvPageType& pageType, const PvJigType& jigType) const
+{
+    return !allowedJigCategories(pageType, jigType).isEmpty();
 }
 
 int PvProductTypeDescription::extraProductionPageCount() const

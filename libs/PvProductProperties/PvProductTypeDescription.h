@@ -8,12 +8,14 @@
 #include "PvDefaultTemplateMap.h"
 #include "PvDistance.h"
 #include "PvImageFXs.h"
+#include "PvJigType.h"
 #include "PvPageAlignment.h"
 #include "PvPageTiltRedirectList.h"
 #include "PvPageTypeList.h"
 #include "PvPreview3DDescription.h"
 #include "PvProductAlignmentStyle.h"
 #include "PvProductClassification.h"
+#include "PvProductEditorAbilities.h"
 #include "PvProductType.h"
 #include "PvProductionExtraPageGroupList.h"
 #include "PvSurroundingDescriptionList.h"
@@ -80,6 +82,30 @@ public:
     [[nodiscard]] PvBarcodeDefinitionList barcodeDefinitions() const { return m_barcodeDefinitions; }
     [[nodiscard]] PvPreview3DDescription preview3DDescription() const { return m_preview3DDescription; }
     [[nodiscard]] PvProductClassification classification() const { return m_classification; }
+    [[nodiscard]] PvProductEditorAbilities editorAbilities() const { return m_editorAbilities; }
+
+    [[nodiscard]] bool hasAssistant() const;
+    [[nodiscard]] bool isConvertable() const;
+    [[nodiscard]] PvPageNamingStyle pageNamingStyle() const;
+    [[nodiscard]] bool showChangeDesignButton() const;
+    [[nodiscard]] bool canRotateBackgrounds() const;
+    [[nodiscard]] int editorStartPage() const;
+    [[nodiscard]] bool putFullBackgroundOnEachPage() const;
+    [[nodiscard]] bool requiresExactArticle(const PvJigType& jigType) const;
+    [[nodiscard]] bool supportsJigType(const PvJigType& jigType) const;
+    //! The calendar date range of the editor abilities (the name is spelled so on purpose).
+    [[nodiscard]] PvDateRangeConstraint dateRangeContraint() const;
+    //! Whether the user may turn page \a page.
+    [[nodiscard]] bool userPageTiltAllowed(const int& page) const;
+    /*!
+     * Whether content may go on page \a page: never when the product disables content, else
+     * on the pages listed in "pageswithcontent", or on every page when none are listed.
+     */
+    [[nodiscard]] bool contentAllowedOnPage(int page) const;
+    //! The categories allowed for \a jigType on \a pageType; empty when not limited.
+    [[nodiscard]] PvThematicCategorySet allowedJigCategories(const PvPageType& pageType, const PvJigType& jigType) const;
+    //! Whether the product limits the categories of \a jigType on \a pageType at all.
+    [[nodiscard]] bool limitJigCategories(const PvPageType& pageType, const PvJigType& jigType) const;
 
     //! The page list as written, with its placeholders for runs of pages.
     [[nodiscard]] PvPageTypeList pageTypes() const { return m_pageTypes; }
@@ -166,6 +192,7 @@ private:
     PvProductionExtraPageGroupList m_extraProductionContents;
     PvProductType m_replacedByProduct;
     PvXMLRewriterStrategy m_conversionStrategy;
+    PvProductEditorAbilities m_editorAbilities;
     QString m_priceListCategory;
     int m_tiltAngle = 0;
     PvBarcodeDefinitionList m_barcodeDefinitions;

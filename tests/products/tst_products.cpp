@@ -56,7 +56,9 @@ QStringList list(const char* text)
 // What a product file sets, in one line: flags (spine, text on spine, logo, border, shadow,
 // horizontal), fold margin, tilt, page numbers, numbering, pages with content, abstract
 // pages, price list, replacement, default variant, barcodes, extra pages, redirects of
-// pages 3 and 5 and tilt redirects from 2, background of a top page, shade, mesh, group.
+// pages 3 and 5 and tilt redirects from 2, background of a top page, shade, mesh, group,
+// editor flags (assistant, convertable, design button, rotate and full backgrounds, tilt of
+// pages 2 and 3, content, exact layouts), start page.
 QString summary(const PvProductTypeDescription& d)
 {
     const auto flags = [](std::initializer_list<bool> values) {
@@ -75,6 +77,9 @@ QString summary(const PvProductTypeDescription& d)
         QString::number(d.barcodeDefinitions().size()), QString::number(d.extraProductionPageCount()),
         joined(QList<qsizetype> { d.contentDropRedirect(3), d.contentDropRedirect(5), d.tiltRedirectForSourcePage(2).size() }),
         background, flags({ d.hasSurroundingWithBindingShade() }), d.preview3DDescription().mesh(), d.classification().group().value(),
+        flags({ d.hasAssistant(), d.isConvertable(), d.showChangeDesignButton(), d.canRotateBackgrounds(), d.putFullBackgroundOnEachPage(),
+                d.userPageTiltAllowed(2), d.userPageTiltAllowed(3), d.supportsJigType(PvJigTypeContent), d.requiresExactArticle(PvJigTypeLayout) }),
+        QString::number(d.editorStartPage()),
     }.join(u'|');
 }
 }
@@ -98,6 +103,8 @@ private Q_SLOTS:
     void classification();
     void sortPageFiles_data();
     void sortPageFiles();
+    void typicalRequest_data();
+    void typicalRequest();
 
 private:
     std::unique_ptr<FixtureRegistry> m_registry;
@@ -181,12 +188,12 @@ void TestProducts::fields_data()
 {
     QTest::addColumn<QString>("product");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("every optional child") << "book-full" << "100110|12|90|40.5/30/11|2,1|1,3|6|books-premium|book-spine|RewriteOneToTwoPages|gold|1|3|1,5,1|301|1|book.obj|Buch";
-    QTest::newRow("nothing but identity") << "book-bare" << "000111|-1|270|50/50/24|||1|||||0|0|3,5,0||0||";
-    QTest::newRow("spine with text and logo") << "book-spine" << "111111|-1|270|50/50/24|3,5,7||4|||||0|0|3,5,0||0||";
-    QTest::newRow("jacket and inside covers") << "book-jacket" << "100110|-1|270|50/50/24|||5|||||0|0|3,5,0||0||";
-    QTest::newRow("grayscale wall decor") << "poster-30x40" << "000001|-1|270|50/50/24|||1|||||0|0|3,5,0||0||Poster";
-    QTest::newRow("unknown product") << "nowhere" << "000000|0|0|0/0/0|||0|||||0|0|3,5,0||0||";
+    QTest::newRow("every optional child") << "book-full" << "100110|12|90|40.5/30/11|2,1|1,3|6|books-premium|book-spine|RewriteOneToTwoPages|gold|1|3|1,5,1|301|1|book.obj|Buch|101100111|2";
+    QTest::newRow("nothing but identity") << "book-bare" << "000111|-1|270|50/50/24|||1|||||0|0|3,5,0||0|||010011110|0";
+    QTest::newRow("spine with text and logo") << "book-spine" << "111111|-1|270|50/50/24|3,5,7||4|||||0|0|3,5,0||0|||010011110|0";
+    QTest::newRow("jacket and inside covers") << "book-jacket" << "100110|-1|270|50/50/24|||5|||||0|0|3,5,0||0|||010011110|0";
+    QTest::newRow("grayscale wall decor") << "poster-30x40" << "000001|-1|270|50/50/24|||1|||||0|0|3,5,0||0||Poster|010011110|0";
+    QTest::newRow("unknown product") << "nowhere" << "000000|0|0|0/0/0|||0|||||0|0|3,5,0||0|||010011110|0";
 }
 
 void TestProducts::fields()
@@ -267,6 +274,41 @@ void TestProducts::sortPageFiles()
     QFETCH(QStringList, files);
     QFETCH(QStringList, expected);
     QCOMPARE(m_registry->sortPageFileNameListInInternOrder(PvProductType(product), files), expected);
+}
+
+void TestProducts::typicalRequest_data()
+{
+    QTest::addColumn<QString>("product");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("expected"); // alignment|content allowed|background categories|limited|only one
+    QTest::newRow("back cover") << "book-full" << 0 << "top|0||0|0";
+    QTest::newRow("spine") << "book-full" << 1 << "middle|1||0|0";
+    QTest::newRow("inside cover") << "book-full" << 2 << "bottom|0||0|0";
+    QTest::newRow("inner page with content") << "book-full" << 3 << "bottom|1|Sommer,Winter|1|0";
+    QTest::newRow("inner page") << "book-full" << 4 << "top|0|Sommer,Winter|1|0";
+    QTest::newRow("front cover after the run") << "book-full" << 28 << "top|0|Sommer|1|1";
+    QTest::newRow("content disabled") << "book-no-content" << 1 << "right|0|Sommer|1|1";
+    QTest::newRow("no limits") << "book-spine" << 5 << "right|1||0|0";
+}
+
+void TestProducts::typicalRequest()
+{
+    QFETCH(QString, product);
+    QFETCH(int, page);
+    QFETCH(QString, expected);
+    const PvProductType type(product);
+    const PvPageTypeList pages = m_registry->pageTypes(type, 24);
+    QVERIFY(page < pages.size());
+    const PvProductTypeDescription* description = m_registry->description(type);
+    QStringList categories;
+    for (const PvThematicCategory& category : m_registry->allowedJigCategories(type, pages.at(page), PvJigTypeBackground))
+        categories.append(category.internalName());
+    categories.sort();
+    const QString found = QStringList { description->pageAlignment(pages, page).encodeCSV(), QString::number(description->contentAllowedOnPage(page)),
+                                        categories.join(u','), QString::number(m_registry->limitJigCategories(type, pages.at(page), PvJigTypeBackground)),
+                                        QString::number(m_registry->thereIsOnlyOneAllowedBackgroundCategory(type, pages.at(page))) }
+                              .join(u'|');
+    QCOMPARE(found, expected);
 }
 
 QTEST_GUILESS_MAIN(TestProducts)

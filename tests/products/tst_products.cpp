@@ -191,7 +191,6 @@ void TestProducts::fields_data()
     QTest::newRow("every optional child") << "book-full" << "100110|12|90|40.5/30/11|2,1|1,3|6|books-premium|book-spine|RewriteOneToTwoPages|gold|1|3|1,5,1|301|1|book.obj|Buch|101100111|2";
     QTest::newRow("nothing but identity") << "book-bare" << "000111|-1|270|50/50/24|||1|||||0|0|3,5,0||0|||010011110|0";
     QTest::newRow("spine with text and logo") << "book-spine" << "111111|-1|270|50/50/24|3,5,7||4|||||0|0|3,5,0||0|||010011110|0";
-    QTest::newRow("jacket and inside covers") << "book-jacket" << "100110|-1|270|50/50/24|||5|||||0|0|3,5,0||0|||010011110|0";
     QTest::newRow("grayscale wall decor") << "poster-30x40" << "000001|-1|270|50/50/24|||1|||||0|0|3,5,0||0||Poster|010011110|0";
     QTest::newRow("unknown product") << "nowhere" << "000000|0|0|0/0/0|||0|||||0|0|3,5,0||0|||010011110|0";
 }
@@ -283,7 +282,6 @@ void TestProducts::typicalRequest_data()
     QTest::addColumn<QString>("expected"); // alignment|content allowed|background categories|limited|only one
     QTest::newRow("back cover") << "book-full" << 0 << "top|0||0|0";
     QTest::newRow("spine") << "book-full" << 1 << "middle|1||0|0";
-    QTest::newRow("inside cover") << "book-full" << 2 << "bottom|0||0|0";
     QTest::newRow("inner page with content") << "book-full" << 3 << "bottom|1|Sommer,Winter|1|0";
     QTest::newRow("inner page") << "book-full" << 4 << "top|0|Sommer,Winter|1|0";
     QTest::newRow("front cover after the run") << "book-full" << 28 << "top|0|Sommer|1|1";

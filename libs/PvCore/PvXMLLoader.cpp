@@ -16,6 +16,7 @@ QDomElement PvXMLLoader::loadDocumentElement(const QString& filePath)
     QDomDocument document;
     if (!document.setContent(&file))
         return {};
-    // The element keeps its document alive.
+    // The document lives as long as this element or a copy of it: callers keep it while they
+    // use its children.
     return document.documentElement();
 }

@@ -10,7 +10,10 @@
 class PVCORE_EXPORT PvXMLLoader
 {
 public:
-    //! The document element, or a null element when the file is missing, unreadable or not well-formed.
+    /*!
+     * The document element, or a null element when the file is missing, unreadable or not
+     * well-formed. Keep the element while using its children: it holds the document.
+     */
     [[nodiscard]] static QDomElement loadDocumentElement(const QFileInfo& file);
     [[nodiscard]] static QDomElement loadDocumentElement(const QString& filePath);
 };

@@ -7,6 +7,6 @@ scripts/setup.sh
 cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBUILD_TESTING=OFF >/dev/null
 cmake --build build -j2 >/dev/null
 if [ $# -eq 0 ]; then
-    set -- data/sample/products
+    set -- list
 fi
 exec build/apps/pvproducts/pvproducts "$@"

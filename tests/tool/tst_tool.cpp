@@ -1,0 +1,169 @@
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+const QString good = QStringLiteral(PV_TESTDATA "/good");
+const QString broken = QStringLiteral(PV_TESTDATA "/broken");
+
+struct Run {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+
+Run pvproducts(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral(PV_TOOL), arguments);
+    if (!process.waitForFinished(60000))
+        return {};
+    return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+             QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError()) };
+}
+
+QStringList args(const char* text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+}
+
+class TestTool : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void commands_data();
+    void commands();
+    void listJson();
+    void lintFindings_data();
+    void lintFindings();
+    void sampleCatalogue();
+};
+
+void TestTool::commands_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QStringList>("expectedLines");
+
+    const QStringList data { QStringLiteral("--data"), good };
+    QTest::newRow("list sorted, update wins") << data + args("list") << 0
+        << QStringList { QStringLiteral("test-book          photobook  hardcover  yes    4"),
+                         QStringLiteral("test-calendar      calendar   spiral     yes    2") };
+    QTest::newRow("show pages") << data + args("show test-book --pages 4") << 0
+        << QStringList { QStringLiteral("0      cover_back   left       0       no"),
+                         QStringLiteral("1      spine        center     0       no"),
+                         QStringLiteral("3      page         right      1       yes"),
+                         QStringLiteral("5      page         right      3       no") };
+    QTest::newRow("unknown type") << data + args("show no-such-product") << 1 << QStringList();
+    QTest::newRow("find by class") << data + args("find --class poster") << 0
+        << QStringList { QStringLiteral("test-poster"), QStringLiteral("test-poster-large") };
+    QTest::newRow("find without filter explains") << data + args("find") << 0
+        << QStringList { QStringLiteral("No filter given: the library answers an empty set, which means every product.") };
+    QTest::newRow("groups by size") << data + args("groups") << 0
+        << QStringList { QStringLiteral("Poster (Poster)"), QStringLiteral("  40x50  16x20  test-poster"), QStringLiteral("  60x80  24x32  test-poster-large") };
+    QTest::newRow("closest") << data + args("closest test-book Poster") << 0 << QStringList { QStringLiteral("test-poster") };
+    QTest::newRow("legacy") << data + args("legacy") << 0
+        << QStringList { QStringLiteral("test-old-book  test-book    RewriteOneToTwoPages") };
+    QTest::newRow("unknown command") << data + args("frobnicate") << 2 << QStringList();
+    QTest::newRow("bad page count") << data + args("show test-book --pages many") << 2 << QStringList();
+    QTest::newRow("unknown class") << data + args("find --class vase") << 2 << QStringList();
+    QTest::newRow("missing data dir") << args("--data /no/such/dir list") << 2 << QStringList();
+    QTest::newRow("spiral without out") << data + args("spiral test-calendar") << 2 << QStringList();
+    QTest::newRow("help of a command") << args("show --help") << 0 << QStringList();
+}
+
+void TestTool::commands()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QStringList, expectedLines);
+
+    const Run run = pvproducts(arguments);
+    QCOMPARE(run.exitCode, exitCode);
+    const QStringList lines = run.out.split(QLatin1Char('\n'));
+    for (const QString& line : expectedLines) {
+        if (!lines.contains(line))
+            QFAIL(qPrintable(QStringLiteral("missing line \"%1\" in:\n%2").arg(line, run.out)));
+    }
+    if (exitCode != 0)
+        QVERIFY(run.err.startsWith(QLatin1String("pvproducts: ")));
+}
+
+void TestTool::listJson()
+{
+    const Run run = pvproducts({ QStringLiteral("--data"), good, QStringLiteral("list"), QStringLiteral("--json") });
+    QCOMPARE(run.exitCode, 0);
+    const QJsonArray products = QJsonDocument::fromJson(run.out.toUtf8()).array();
+    QCOMPARE(products.size(), 4);
+    QCOMPARE(products.at(2).toObject().value(QStringLiteral("name")).toString(), QStringLiteral("test-poster"));
+    QCOMPARE(products.at(2).toObject().value(QStringLiteral("valid")).toBool(), true);
+
+    const Run show = pvproducts({ QStringLiteral("--data"), good, QStringLiteral("show"), QStringLiteral("test-poster"), QStringLiteral("--json") });
+    const QJsonObject classification = QJsonDocument::fromJson(show.out.toUtf8()).object().value(QStringLiteral("classification")).toObject();
+    QCOMPARE(classification.value(QStringLiteral("cm")).toString(), QStringLiteral("40x50"));
+}
+
+void TestTool::lintFindings_data()
+{
+    QTest::addColumn<QString>("finding");
+    QTest::newRow("not well-formed") << "products/a-not-xml.xml:3:1: error: not well-formed XML";
+    QTest::newRow("no product") << "products/b-no-product.xml:1:1: error: no \"product\" element";
+    QTest::newRow("unknown class") << "products/c-typos.xml:3:25: error: attribute \"class\": unknown article class \"photobok\"";
+    QTest::newRow("invalid and why") << "products/c-typos.xml:3:3: error: product \"typos\" is not valid";
+    QTest::newRow("bool") << "products/c-typos.xml:3:62: error: attribute \"horizontalPages\": \"maybe\" is not true or false";
+    QTest::newRow("int") << "products/c-typos.xml:3:86: error: attribute \"foldsafetymargin\": \"wide\" is not a whole number";
+    QTest::newRow("unknown attribute") << "products/c-typos.xml:3:110: warning: unknown attribute \"colour\"";
+    QTest::newRow("page name") << "products/c-typos.xml:4:5: error: the text of \"pages\": unknown page type \"spinee\"";
+    QTest::newRow("empty page") << "products/c-typos.xml:4:5: error: the text of \"pages\": an empty entry";
+    QTest::newRow("number list") << "products/c-typos.xml:5:5: error: the text of \"productionnumbering\": \"x\" is not a whole number";
+    QTest::newRow("huge range") << "products/c-typos.xml:7:24: error: attribute \"from\": \"1-10000000\" spans more than 100000 pages";
+    QTest::newRow("missing to") << "products/c-typos.xml:8:7: error: \"contentredirect\" has no attribute \"to\"";
+    QTest::newRow("unknown element") << "products/c-typos.xml:10:5: warning: unknown element \"editorAbilites\"";
+    QTest::newRow("naming style") << "products/c-typos.xml:12:7: error: the text of \"pageNamingStyle\": unknown page naming style \"bok\"";
+    QTest::newRow("jig tag") << "products/c-typos.xml:13:13: error: unknown jig type \"backdrop\"";
+    QTest::newRow("mesh") << "products/c-typos.xml:15:16: error: a mesh needs at least one \"textureTarget\"";
+    QTest::newRow("duplicate") << "products/d-dup.xml:1:11: warning: product type \"dup\" is defined again in";
+    QTest::newRow("replacedBy") << "legacy/old.xml:1:61: error: \"replacedBy\" names no known product: \"nowhere\"";
+}
+
+void TestTool::lintFindings()
+{
+    QFETCH(QString, finding);
+    const Run run = pvproducts({ QStringLiteral("lint"), QStringLiteral("--data"), broken });
+    QCOMPARE(run.exitCode, 1);
+    const QStringList lines = run.out.split(QLatin1Char('\n'));
+    const bool found = std::any_of(lines.cbegin(), lines.cend(), [&](const QString& line) { return line.contains(finding); });
+    if (!found)
+        QFAIL(qPrintable(QStringLiteral("no finding \"%1\" in:\n%2").arg(finding, run.out)));
+}
+
+void TestTool::sampleCatalogue()
+{
+    // The bundled catalogue is the default data and must stay free of errors.
+    const Run lint = pvproducts({ QStringLiteral("lint"), QStringLiteral("--json") });
+    QCOMPARE(lint.exitCode, 0);
+    const QJsonObject report = QJsonDocument::fromJson(lint.out.toUtf8()).object();
+    QCOMPARE(report.value(QStringLiteral("errors")).toInt(), 0);
+    QVERIFY(report.value(QStringLiteral("files")).toInt() >= 25);
+
+    QTemporaryDir dir;
+    const QString png = dir.filePath(QStringLiteral("strip.png"));
+    const Run spiral = pvproducts({ QStringLiteral("spiral"), QStringLiteral("calendar-wall-a3-portrait"), QStringLiteral("--vertical"), QStringLiteral("--out"), png });
+    QCOMPARE(spiral.exitCode, 0);
+    const QImage strip(png);
+    QVERIFY(!strip.isNull());
+    QVERIFY(strip.height() > strip.width());
+
+    const Run category = pvproducts({ QStringLiteral("--language"), QStringLiteral("en_GB"), QStringLiteral("category"), QStringLiteral("Hintergründe") });
+    QCOMPARE(category.exitCode, 0);
+    QVERIFY2(category.out.contains(QLatin1String("Backgrounds")), qPrintable(category.out));
+}
+
+QTEST_GUILESS_MAIN(TestTool)
+#include "tst_tool.moc"

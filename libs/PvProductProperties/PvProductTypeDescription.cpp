@@ -150,15 +150,7 @@ void PvProductTypeDescription::initPreview3D(const QDomElement& product)
 
 QList<int> PvProductTypeDescription::decodeIntList(const QDomElement& element)
 {
-    QList<int> numbers;
-    const QStringList parts = element.text().simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& part : parts) {
-        bool ok = false;
-        const int number = part.toInt(&ok, 10);
-        if (ok)
-            numbers.append(number);
-    }
-    return numbers;
+    return PvXMLParser::intList(element.text());
 }
 
 int PvProductTypeDescription::decodeFoldSafetyMargin(const QDomElement& element)

@@ -21,13 +21,5 @@ bool PvUserPageTiltConfig::isPageRotationDisabled(int pageNr) const
 
 QList<int> PvUserPageTiltConfig::decodeIntList(const QString& text) const
 {
-    QList<int> numbers;
-    const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& part : parts) {
-        bool ok = false;
-        const int number = part.toInt(&ok, 10);
-        if (ok)
-            numbers.append(number);
-    }
-    return numbers;
+    return PvXMLParser::intList(text);
 }

@@ -126,3 +126,16 @@ int PvXMLParser::intText(const QDomElement& element, const QString& childName, i
     const int value = child.text().trimmed().toInt(&ok, 10);
     return ok ? value : defaultValue;
 }
+
+QList<int> PvXMLParser::intList(const QString& text)
+{
+    QList<int> numbers;
+    const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& part : parts) {
+        bool ok = false;
+        const int number = part.toInt(&ok, 10);
+        if (ok)
+            numbers.append(number);
+    }
+    return numbers;
+}

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include <QDomElement>
+#include <QList>
 #include <QRect>
 #include <QRectF>
 #include <QSize>
@@ -36,6 +37,8 @@ public:
     [[nodiscard]] static QSize readSize(const QDomElement& element, const QSize& defaultValue = QSize());
     //! Attributes "x", "y", "z"; a missing coordinate is 0.
     [[nodiscard]] static QVector3D readVector3D(const QDomElement& element, const QVector3D& defaultValue = QVector3D());
+    //! The decimal integers of comma-separated text; empty parts and parts that are no integer are skipped.
+    [[nodiscard]] static QList<int> intList(const QString& text);
     //! The integer text of the first child element \a childName.
     [[nodiscard]] static int intText(const QDomElement& element, const QString& childName, int defaultValue);
 };

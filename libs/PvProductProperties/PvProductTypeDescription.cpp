@@ -209,7 +209,7 @@ PvPageTypeList PvProductTypeDescription::pageTypes(unsigned int pageCount) const
             appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageRight });
             break;
         case PvPageTypeRunYear:
-            // A year is twelve months and a title whatever page count is asked for.
+            // A fixed year: a title page and 24 month pages, whatever page count is asked for.
             pages.append(PvPageType(PvPageTypePage));
             appendCycle(pages, 24, { PvPageTypeMonthPage });
             break;

@@ -209,11 +209,13 @@ PvThematicCategory PvThematicCategorySet::preferredCategory(bool preferMultiColo
         return PvThematicCategory::userCliparts();
     if (contains(PvThematicCategory::userBookStyles()))
         return PvThematicCategory::userBookStyles();
-    if (preferMultiColor && contains(PvThematicCategory::multiColor()))
-        return PvThematicCategory::multiColor();
+    // The special categories are interned here even when multicolour wins below.
     PvThematicCategorySet rest(*this);
     rest.subtract(specialCategories());
-    return rest.isEmpty() ? *cbegin() : *rest.cbegin();
+    const PvThematicCategory first = rest.isEmpty() ? *cbegin() : *rest.cbegin();
+    if (preferMultiColor && contains(PvThematicCategory::multiColor()))
+        return PvThematicCategory::multiColor();
+    return first;
 }
 
 QStringList PvThematicCategorySet::toDataStringList() const

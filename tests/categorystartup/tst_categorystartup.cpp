@@ -1,6 +1,7 @@
 #include "PvDirectoryConfig.h"
 #include "PvLocaleAndTranslationManager.h"
 #include "PvThematicCategoryRegistry.h"
+#include "PvThematicCategorySet.h"
 #include "PvThematicCategoryTranslationRegistry.h"
 
 #include <QTest>
@@ -35,6 +36,12 @@ void TestCategoryStartup::firstUse()
     QCOMPARE(registry.visibleName(2), QStringLiteral("Ostern (Paket)"));
     QCOMPARE(PvThematicCategoryTranslationRegistry::instance().translation(QStringLiteral("Wedding"), german),
              QStringLiteral("Wedding"));
+
+    // Choosing an item's category interns the special categories, even when multicolour wins.
+    const PvThematicCategorySet multiColored(PvThematicCategory::multiColor());
+    QCOMPARE(multiColored.preferredCategory(true), PvThematicCategory::multiColor());
+    // 4 multicolour, 5 and 6 the user's cliparts and designs, 7 show-all, 8 the recycle bin.
+    QCOMPARE(registry.key(QStringLiteral("Papierkorb")), 8);
 }
 
 QTEST_GUILESS_MAIN(TestCategoryStartup)

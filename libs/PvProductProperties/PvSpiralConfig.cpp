@@ -65,8 +65,8 @@ void PvSpiralConfig::readLoopImages(const QDomElement& element)
 {
     const QString loopImage = QStringLiteral("loopImage");
     for (QDomElement child = element.firstChildElement(loopImage); !child.isNull(); child = child.nextSiblingElement(loopImage)) {
-        const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"), QString(), true);
-        const QString file = PvXMLParser::attribute(child, QStringLiteral("imagePath"), QString(), true);
+        const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"));
+        const QString file = PvXMLParser::attribute(child, QStringLiteral("imagePath"));
         if (!colour.isEmpty() && !file.isEmpty())
             m_loopImages.insert(colour, file);
     }

@@ -121,6 +121,7 @@ private Q_SLOTS:
         PvSpiralConfig config = PvSpiralConfig(document(QStringLiteral(
             "<spirals count=\"3\" variant=\"late.png\"><loopImages>"
             "<loopImage variant=\"gold\" imagePath=\"loop.png\"/><loopImage variant=\"silver\" imagePath=\"\"/>"
+            "<loopImage variant=\"copper \" imagePath=\" \"/>"
             "</loopImages></spirals>")).documentElement());
         QVERIFY(config.bindingLoopImage().isNull());
         QVERIFY(config.spiralImage(Qt::Horizontal).isNull());
@@ -132,6 +133,11 @@ private Q_SLOTS:
 
         config.setSpiralColor(QStringLiteral("silver"));
         QCOMPARE(config.variant(), QStringLiteral("late.png"));
+        // Names and paths are taken as written, blanks included.
+        config.setSpiralColor(QStringLiteral("copper"));
+        QCOMPARE(config.variant(), QStringLiteral("late.png"));
+        config.setSpiralColor(QStringLiteral("copper "));
+        QCOMPARE(config.variant(), QStringLiteral(" "));
         config.setSpiralColor(QStringLiteral("gold"));
         QCOMPARE(config.variant(), QStringLiteral("loop.png"));
         QCOMPARE(config.bindingLoopImage().cacheKey(), loaded.cacheKey());

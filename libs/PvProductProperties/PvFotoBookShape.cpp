@@ -94,17 +94,24 @@ PvFotoBookShape PvFotoBookShape::createFromArticleProperties(const PvSpaceMagnit
     }
 }
 
+void PvFotoBookShape::fillTexts() const
+{
+    // Names and sizes come from the same language, whichever of them is asked first.
+    if (!m_names.isEmpty())
+        return;
+    m_names = translated(&TextRow::name);
+    m_sizes = translated(&TextRow::size);
+}
+
 QString PvFotoBookShape::sizeDescription() const
 {
-    if (m_names.isEmpty())
-        m_names = translated(&TextRow::name);
+    fillTexts();
     return m_names.value(m_value);
 }
 
 QString PvFotoBookShape::size() const
 {
-    if (m_sizes.isEmpty())
-        m_sizes = translated(&TextRow::size);
+    fillTexts();
     return m_sizes.value(m_value);
 }
 

@@ -44,7 +44,9 @@ protected:
     void fillTable(Table* table) const override;
 
 private:
-    // Filled on first use in the language active then; one thread at a time.
+    void fillTexts() const;
+
+    // Both filled together on first use, in the language active then; one thread at a time.
     mutable QHash<PvFotoBookShapeEnum, QString> m_names;
     mutable QHash<PvFotoBookShapeEnum, QString> m_sizes;
 };

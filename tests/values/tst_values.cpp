@@ -82,11 +82,15 @@ void TestValues::shapeTextsTranslatedOnFirstUse()
     const PvFotoBookShape used(PvFotoBookShapeMini);
     QCOMPARE(used.completeDescription(), QStringLiteral("MIRAL FOTOBUCH Mini (ca. 15 x 11 cm)"));
     const PvFotoBookShape fresh(PvFotoBookShapeA4Landscape);
+    const PvFotoBookShape named(PvFotoBookShapeXl);
+    QCOMPARE(named.sizeDescription(), QStringLiteral("XL"));
     MarkingTranslator translator;
     QCoreApplication::installTranslator(&translator);
     QCOMPARE(fresh.sizeDescription(), QStringLiteral("PvFotoBookShape:Groß Panorama"));
     QCOMPARE(fresh.size(), QStringLiteral("PvFotoBookShape:(ca. 28 x 21 cm)"));
     QCOMPARE(used.sizeDescription(), QStringLiteral("Mini"));
+    // The size came with the name, before the translator.
+    QCOMPARE(named.size(), QStringLiteral("(ca. 30 x 30 cm)"));
     // The product name stays as first translated, once per process.
     QVERIFY(fresh.completeDescription().startsWith(QLatin1String("MIRAL FOTOBUCH PvFotoBookShape:")));
     QCoreApplication::removeTranslator(&translator);

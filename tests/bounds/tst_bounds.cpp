@@ -1,5 +1,6 @@
 #include "PvContentDropRedirectList.h"
 #include "PvDirectoryConfig.h"
+#include "PvJigType.h"
 #include "PvProductTypeDescription.h"
 #include "PvSpiralConfig.h"
 #include "PvXMLLoader.h"
@@ -117,6 +118,7 @@ void queryAll(const PvProductTypeDescription& description, unsigned int pageCoun
     }
     (void)description.productionNumberingList(int(pageCount));
     (void)description.extraProductionPageCount();
+    (void)description.allowedJigCategories(PvPageType(PvPageTypePage), PvJigType(PvJigTypeBackground));
 }
 
 // Swallows the warnings of hostile files where their number is not the point.
@@ -433,6 +435,13 @@ private Q_SLOTS:
             return product(QString(), QStringLiteral("<surroundings>%1</surroundings>")
                                           .arg(QString(QStringLiteral("<surrounding><spirals count=\"2147483647\" loopHeight=\"2147483647\"/><hole diameter=\"9\"/></surrounding>")).repeated(n)));
         }) << 16;
+        QTest::newRow("background categories") << Generator([](int n) {
+            QStringList names;
+            for (int i = 0; i < n; ++i)
+                names.append(QStringLiteral("bounds-%1-%2").arg(n).arg(i));
+            return product(QString(), QStringLiteral("<editorAbilities><jigs><background><categories pageType=\"all\">%1</categories>"
+                                                     "</background></jigs></editorAbilities>").arg(names.join(QLatin1Char(','))));
+        }) << 256;
         QTest::newRow("production numbers") << Generator([](int n) {
             return product(QString(), QStringLiteral("<productionnumbering>%1</productionnumbering><pageswithcontent>%1</pageswithcontent>")
                                           .arg(QStringList(n, QStringLiteral("2147483647")).join(QLatin1Char(','))));

@@ -27,7 +27,8 @@
 #endif
 
 #ifdef PV_HEAP_FROM_ASAN
-#include <sanitizer/allocator_interface.h>
+// From the sanitizer's runtime (GCC's and clang's alike; not every compiler ships the header).
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #else
 #include <malloc.h>
 #endif

@@ -92,7 +92,7 @@ for harness in "${harnesses[@]}"; do
     # New inputs go to the first folder only; seeds and regression inputs are read.
     "build-fuzz/tests/fuzz/$harness" "${keep_going[@]}" -max_total_time="$seconds" -max_len=$max_len \
         -timeout=$timeout_seconds -rss_limit_mb=$rss_limit_mb -malloc_limit_mb="$(malloc_limit_mb "$harness")" \
-        -dict=tests/fuzz/pv.dict -artifact_prefix="$findings/" -close_fd_mask=1 -print_final_stats=1 \
+        -dict=tests/fuzz/pv.dict -use_value_profile=1 -artifact_prefix="$findings/" -close_fd_mask=1 -print_final_stats=1 \
         "$corpus" "$seeds/$harness" "$regressions" >"$findings/last-run.log" 2>&1 || status=$?
     new=()
     while IFS= read -r f; do new+=("$f"); done < <(find "$findings" -type f -newer "$marker" ! -name '*.log' | LC_ALL=C sort)

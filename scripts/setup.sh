@@ -1,9 +1,13 @@
 #!/usr/bin/env bash
 # Installs what a fresh Debian machine lacks to build and test the project. Packages that
 # are already there are not touched, so a second run costs nothing.
+# --fuzz: also what the fuzz build needs (clang with its libFuzzer and sanitizer runtimes).
 set -euo pipefail
 
 packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools)
+if [ "${1:-}" = "--fuzz" ]; then
+    packages+=(clang libclang-rt-14-dev)
+fi
 missing=()
 for package in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")

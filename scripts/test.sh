@@ -22,3 +22,11 @@ if setarch "$(uname -m)" -R true 2>/dev/null; then
     no_aslr=(setarch "$(uname -m)" -R)
 fi
 "${no_aslr[@]}" ctest --test-dir build-tsan --output-on-failure -L concurrency
+
+# A short run of every fuzz harness (clang's libFuzzer), so that a change that reopens a hole
+# in the handling of hostile files does not land. PV_FUZZ_SECONDS is the time per harness;
+# 0 leaves the run out.
+fuzz_seconds="${PV_FUZZ_SECONDS:-45}"
+if [ "$fuzz_seconds" != 0 ]; then
+    scripts/fuzz.sh "$fuzz_seconds"
+fi

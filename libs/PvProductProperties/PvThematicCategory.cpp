@@ -1,41 +1,21 @@
 #include "PvThematicCategory.h"
 
 #include "PvDirectoryConfig.h"
+#include "PvThematicCategoryColorTable.h"
 #include "PvThematicCategoryRegistry.h"
 #include "PvThematicCategorySet.h"
 #include "PvThematicCategoryTranslationRegistry.h"
 #include "PvXMLLoader.h"
-#include "PvXMLParser.h"
 
 #include <QCoreApplication>
-#include <QDomElement>
-#include <QDomNodeList>
 
 namespace {
-using ColorList = QHash<QString, QColor>;
-
-ColorList readColorsXML()
+const PvThematicCategoryColorTable& colorTable()
 {
-    ColorList colors;
-    const QDomElement root = PvXMLLoader::loadDocumentElement(PvDirectoryConfig::instance().resource(QStringLiteral("colors.xml"), false));
-    const QDomNodeList entries = root.elementsByTagName(QStringLiteral("color"));
-    for (int i = 0; i < entries.size(); ++i) {
-        const QDomElement entry = entries.at(i).toElement();
-        const QString name = PvXMLParser::attribute(entry, QStringLiteral("name"), QString(), false);
-        const QString rgb = PvXMLParser::attribute(entry, QStringLiteral("rgb"), QString(), false);
-        colors.insert(name, QColor::fromString(rgb));
-    }
-    return colors;
+    static const PvThematicCategoryColorTable table(
+        PvXMLLoader::loadDocumentElement(PvDirectoryConfig::instance().resource(QStringLiteral("colors.xml"), false)));
+    return table;
 }
-
-const ColorList& colorList()
-{
-    static const ColorList colors = readColorsXML();
-    return colors;
-}
-
-// Length of "_metallic": metallic variants find their base colour by dropping it.
-constexpr int metallicSuffixLength = 9;
 
 const char* const allCategoryText = QT_TRANSLATE_NOOP("PvThematicCategory", "Alle anzeigen");
 }
@@ -112,13 +92,7 @@ PvSpotColor PvThematicCategory::toSpotColor() const
 
 QColor PvThematicCategory::color(const QString& internalName)
 {
-    const ColorList& colors = colorList();
-    const QColor exact = colors.value(internalName);
-    if (exact.isValid())
-        return exact;
-    if (internalName.size() < metallicSuffixLength + 1)
-        return {};
-    return colors.value(internalName.chopped(metallicSuffixLength));
+    return colorTable().color(internalName);
 }
 
 QColor PvThematicCategory::color() const
@@ -128,16 +102,7 @@ QColor PvThematicCategory::color() const
 
 QString PvThematicCategory::colorSortKey() const
 {
-    const QColor c = color();
-    const int hue = c.hsvHue();
-    const int saturation = c.hsvSaturation();
-    const int group = saturation < 40 ? 2 : (hue >= 0 ? 3 : 1);
-    const QLatin1Char blank(' ');
-    return QStringLiteral("%1%2%3%4")
-        .arg(group)
-        .arg(qMax(hue, 0), 2, 16, blank)
-        .arg(saturation, 2, 16, blank)
-        .arg(c.value(), 2, 16, blank);
+    return PvThematicCategoryColorTable::sortKey(color());
 }
 
 bool PvThematicCategory::compareAlphabetically(const PvThematicCategory& a, const PvThematicCategory& b)

@@ -3,7 +3,8 @@
 # are already there are not touched, so a second run costs nothing.
 set -euo pipefail
 
-packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools)
+# qt6-tools-dev: the Linguist CMake functions (qt_add_translations); doxygen: the API reference.
+packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools qt6-tools-dev doxygen)
 missing=()
 for package in "${packages[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")

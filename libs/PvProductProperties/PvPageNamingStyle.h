@@ -52,6 +52,9 @@ public:
     void toXml(QDomElement& element) const;
     [[nodiscard]] static QString defaultAttributeName();
 
+    //! The translated display name of a single style, e.g. "Kalender"; empty for 0 and for combinations.
+    [[nodiscard]] QString humanReadableName() const;
+
 protected:
     void fillTable(Table* table) const override;
 };

@@ -49,7 +49,7 @@ public:
     [[nodiscard]] PvProductType productType() const { return m_productType; }
     //! The article class, one bit for a valid product.
     [[nodiscard]] PvArticleClass articleClass() const { return m_articleClass; }
-    //! The cover type; 0 for prints.
+    //! The cover type ("binding"); 0 when the file gives none.
     [[nodiscard]] PvCoverType coverType() const { return m_coverType; }
     //! A set of cards of different designs ("isVario").
     [[nodiscard]] bool isVario() const { return m_isVario; }
@@ -88,7 +88,7 @@ public:
     [[nodiscard]] bool canHaveShadow() const { return m_canHaveShadow; }
     //! How the editor aligns the product's pages ("productAlignment").
     [[nodiscard]] PvProductAlignmentStyle productAlignment() const { return m_productAlignment; }
-    //! Whether pages lie side by side rather than one above the other.
+    //! Whether pages are laid side by side ("horizontalPages", default true).
     [[nodiscard]] bool horizontalPages() const { return m_horizontalPages; }
     //! The configured article variants of the product.
     [[nodiscard]] PvConfiguredArticleVariantList variants() const { return m_variants; }
@@ -161,7 +161,7 @@ public:
 
     //! Binding shades, frames and passe-partouts around the pages.
     [[nodiscard]] PvSurroundingDescriptionList surroundings() const { return m_surroundings; }
-    //! The surrounding of \a key; a default description when there is none.
+    //! The first surrounding suitable for \a key (for any variant when none is for its own); "no surrounding" otherwise.
     [[nodiscard]] PvSurroundingDescription findSurrounding(const PvSurroundingKey& key) const;
     //! Whether some surrounding draws a binding shade.
     [[nodiscard]] bool hasSurroundingWithBindingShade() const;

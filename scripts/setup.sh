@@ -4,7 +4,8 @@
 # --fuzz: also what the fuzz build needs (clang with its libFuzzer and sanitizer runtimes).
 set -euo pipefail
 
-packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools)
+# qt6-tools-dev: the Linguist CMake functions (qt_add_translations); doxygen: the API reference.
+packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools qt6-tools-dev doxygen)
 if [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-14-dev)
 fi

@@ -50,12 +50,14 @@ inline void postUnlock(void*, unsigned) { }
 class PvMutex
 {
 public:
+    //! Takes the mutex.
     void lock()
     {
         PvLockAnnotation::preLock(&m_tag, 0);
         m_mutex.lock();
         PvLockAnnotation::postLock(&m_tag, 0);
     }
+    //! Releases the mutex.
     void unlock()
     {
         PvLockAnnotation::preUnlock(&m_tag, 0);
@@ -72,8 +74,10 @@ private:
 class PvReadWriteLock
 {
 public:
+    //! A lock of recursion mode \a mode.
     explicit PvReadWriteLock(QReadWriteLock::RecursionMode mode = QReadWriteLock::NonRecursive) : m_lock(mode) { }
 
+    //! Takes the lock for reading when \a shared, else for writing.
     void lock(bool shared)
     {
         PvLockAnnotation::preLock(&m_tag, flags(shared));
@@ -83,6 +87,7 @@ public:
             m_lock.lockForWrite();
         PvLockAnnotation::postLock(&m_tag, flags(shared));
     }
+    //! Releases the lock taken with the same \a shared.
     void unlock(bool shared)
     {
         PvLockAnnotation::preUnlock(&m_tag, flags(shared));
@@ -101,6 +106,7 @@ private:
 class PvMutexLocker
 {
 public:
+    //! Takes \a mutex.
     explicit PvMutexLocker(PvMutex* mutex) : m_mutex(mutex) { m_mutex->lock(); }
     ~PvMutexLocker() { m_mutex->unlock(); }
     PvMutexLocker(const PvMutexLocker&) = delete;
@@ -115,6 +121,7 @@ template <bool Shared>
 class PvReadWriteLocker
 {
 public:
+    //! Takes \a lock.
     explicit PvReadWriteLocker(PvReadWriteLock* lock) : m_lock(lock) { m_lock->lock(Shared); }
     ~PvReadWriteLocker() { m_lock->unlock(Shared); }
     PvReadWriteLocker(const PvReadWriteLocker&) = delete;

@@ -9,7 +9,9 @@ class PVPRODUCTPROPERTIES_EXPORT PvArticleClassProperties
 public:
     PvArticleClassProperties();
 
+    //! The photo paper of the class; none by default.
     [[nodiscard]] PvFotoPaperType paperType() const { return m_paperType; }
+    //! Sets the photo paper of the class.
     void setPaperType(const PvFotoPaperType& paperType);
 
 private:

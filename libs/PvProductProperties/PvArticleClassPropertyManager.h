@@ -18,13 +18,18 @@ public:
     PvArticleClassPropertyManager();
     PvArticleClassPropertyManager(const PvArticleClassPropertyManager&) = delete;
     PvArticleClassPropertyManager& operator=(const PvArticleClassPropertyManager&) = delete;
+    //! Moves take the properties along; their addresses stay.
+    //! @{
     PvArticleClassPropertyManager(PvArticleClassPropertyManager&& other) noexcept;
     PvArticleClassPropertyManager& operator=(PvArticleClassPropertyManager&& other) noexcept;
+    //! @}
     ~PvArticleClassPropertyManager();
 
     //! The properties of \a articleClass, created on first request; never null.
     [[nodiscard]] PvArticleClassProperties* articleClassProperties(const PvArticleClass& articleClass);
+    //! The photo paper of \a articleClass.
     [[nodiscard]] PvFotoPaperType paperType(const PvArticleClass& articleClass);
+    //! Sets the photo paper of \a articleClass.
     void setPaperType(const PvArticleClass& articleClass, const PvFotoPaperType& paperType);
 
 private:

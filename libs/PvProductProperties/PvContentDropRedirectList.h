@@ -10,11 +10,15 @@ class PVPRODUCTPROPERTIES_EXPORT PvContentDropRedirectList
 {
 public:
     PvContentDropRedirectList() = default;
+    //! Reads the "redirect" children of a "contentredirects" element.
     explicit PvContentDropRedirectList(const QDomElement& contentredirects);
+    //! Plain values.
+    //! @{
     PvContentDropRedirectList(const PvContentDropRedirectList&) = default;
     PvContentDropRedirectList(PvContentDropRedirectList&&) noexcept = default;
     PvContentDropRedirectList& operator=(const PvContentDropRedirectList&) = default;
     PvContentDropRedirectList& operator=(PvContentDropRedirectList&&) noexcept = default;
+    //! @}
     virtual ~PvContentDropRedirectList() = default;
 
     //! The page that content dropped on \a page goes to: its redirect target, or \a page itself.

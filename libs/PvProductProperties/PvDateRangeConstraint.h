@@ -15,15 +15,22 @@ class PVPRODUCTPROPERTIES_EXPORT PvDateRangeConstraint
 {
 public:
     PvDateRangeConstraint() = default;
+    //! Reads a "dateRangeConstraint" element: "isEnforced", "minimumFromCurrentYear", "maximumFromCurrentYear".
     explicit PvDateRangeConstraint(const QDomElement& element);
+    //! Plain values.
+    //! @{
     PvDateRangeConstraint(const PvDateRangeConstraint&) = default;
     PvDateRangeConstraint(PvDateRangeConstraint&&) noexcept = default;
     PvDateRangeConstraint& operator=(const PvDateRangeConstraint&) = default;
     PvDateRangeConstraint& operator=(PvDateRangeConstraint&&) noexcept = default;
     virtual ~PvDateRangeConstraint() = default;
+    //! @}
 
+    //! Whether the editor holds dates to the range ("isEnforced", default false).
     [[nodiscard]] bool enforce() const { return m_isEnforced; }
+    //! The first allowed year, counted from the current one.
     [[nodiscard]] int minimumFromCurrentYear() const { return m_minimumFromCurrentYear; }
+    //! The last allowed year, counted from the current one.
     [[nodiscard]] int maximumFromCurrentYear() const { return m_maximumFromCurrentYear; }
 
     /*!

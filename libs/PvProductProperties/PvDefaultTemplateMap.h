@@ -15,6 +15,7 @@ class PVPRODUCTPROPERTIES_EXPORT PvDefaultTemplateMap
 {
 public:
     PvDefaultTemplateMap() = default;
+    //! The entries of the "default" children of \a defaults.
     explicit PvDefaultTemplateMap(const QDomElement& defaults);
 
     //! Adds the entries of \a defaults; a later entry replaces an earlier one of equal key.
@@ -25,6 +26,7 @@ public:
      * then that of its scene page count for any page, then the general one (possibly empty).
      */
     [[nodiscard]] QString findTemplate(const PvDefaultTemplateKey& key) const;
+    //! The number of entries.
     [[nodiscard]] qsizetype size() const { return m_templates.size(); }
 
     //! Folds ä, ö, ü and ß, in either case, to "ae", "oe", "ue" and "ss".

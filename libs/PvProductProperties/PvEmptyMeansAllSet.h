@@ -33,6 +33,7 @@ class PvEmptyMeansAllSet : public QSet<T>
 public:
     using QSet<T>::QSet;
     PvEmptyMeansAllSet() = default;
+    //! The set of the elements of \a other; empty means all.
     PvEmptyMeansAllSet(const QSet<T>& other) : QSet<T>(other) { }
 
     //! One element per flag bit of \a value; none for 0 or for a value with the top bit set.

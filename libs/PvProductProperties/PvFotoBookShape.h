@@ -27,7 +27,9 @@ enum PvFotoBookShapeEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvFotoBookShape : public PvEnumWrapper<PvFotoBookShapeEnum>
 {
 public:
+    //! The shape \a value.
     PvFotoBookShape(PvFotoBookShapeEnum value = PvFotoBookShapeEnum(0)) noexcept;
+    //! The shapes named in the comma-separated \a text.
     explicit PvFotoBookShape(const QString& text);
 
     //! The shape of a photo book of that size class and orientation; 0 when there is none.
@@ -41,6 +43,7 @@ public:
     [[nodiscard]] QString completeDescription() const;
 
 protected:
+    //! Fills the table with the shapes' names.
     void fillTable(Table* table) const override;
 
 private:

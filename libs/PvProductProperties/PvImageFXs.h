@@ -13,11 +13,15 @@ enum PvImageFXsEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvImageFXs : public PvEnumWrapper<PvImageFXsEnum>
 {
 public:
+    //! The effects \a value.
     PvImageFXs(PvImageFXsEnum value = PvImageFXsEnum(0)) noexcept;
+    //! The effects named in the comma-separated \a text.
     explicit PvImageFXs(const QString& text);
 
+    //! Whether photos are turned grey.
     [[nodiscard]] bool isGray() const noexcept { return hasAnyOf(PvImageFXsGrayscale); }
 
 protected:
+    //! Fills the table with the effects' names.
     void fillTable(Table* table) const override;
 };

@@ -18,19 +18,29 @@ class PVPRODUCTPROPERTIES_EXPORT PvJigEditorAbilities
 {
 public:
     PvJigEditorAbilities();
+    //! Reads one jig element with its "categories" children; missing attributes take their defaults.
     explicit PvJigEditorAbilities(const QDomElement& element);
+    //! Copies share their data.
+    //! @{
     PvJigEditorAbilities(const PvJigEditorAbilities& other);
     PvJigEditorAbilities(PvJigEditorAbilities&& other) noexcept;
     PvJigEditorAbilities& operator=(const PvJigEditorAbilities& other);
     PvJigEditorAbilities& operator=(PvJigEditorAbilities&& other) noexcept;
     ~PvJigEditorAbilities();
+    //! @}
 
+    //! Equal in every field.
     bool operator==(const PvJigEditorAbilities& other) const;
+    //! Differs in some field.
     bool operator!=(const PvJigEditorAbilities& other) const { return !(*this == other); }
 
+    //! Whether the editor offers this jig type ("enabled", default true).
     [[nodiscard]] bool isEnabled() const;
+    //! Whether its elements may be rotated ("rotatable", default false).
     [[nodiscard]] bool rotatable() const;
+    //! Whether one element fills each whole page ("fullOnEachPage", default true).
     [[nodiscard]] bool fullOnEachPage() const;
+    //! Whether elements must match the exact article ("exactArticle", default false).
     [[nodiscard]] bool requiresExactArticle() const;
     /*!
      * The category names stored for exactly \a pageType. Lists are stored per single page type,

@@ -26,7 +26,9 @@ enum PvJigTypeEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvJigType : public PvEnumWrapper<PvJigTypeEnum>
 {
 public:
+    //! The kinds \a value.
     PvJigType(PvJigTypeEnum value = PvJigTypeEnum(0)) noexcept;
+    //! The kinds named in the comma-separated \a text.
     explicit PvJigType(const QString& text);
 
     //! The translated display name; empty for unknown values and for combinations of kinds.
@@ -42,5 +44,6 @@ public:
     [[nodiscard]] static const QHash<PvJigTypeEnum, PvDlpTypeEnum>& jigToDlpEnumHash();
 
 protected:
+    //! Fills the table with the kinds' names, aliases after the written name.
     void fillTable(Table* table) const override;
 };

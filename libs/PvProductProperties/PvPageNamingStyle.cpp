@@ -66,3 +66,43 @@ QString PvPageNamingStyle::defaultAttributeName()
 {
     return QStringLiteral("pagenaming");
 }
+
+namespace {
+constexpr std::pair<PvPageNamingStyleEnum, const char*> displayNames[] = {
+    { PvPageNamingStyleBook, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Buch") },
+    { PvPageNamingStyleCalendar, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Kalender") },
+    { PvPageNamingStyleSingleSidedCard, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Einseitige Karte") },
+    { PvPageNamingStyleBothSidedCard, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Beidseitige Karte") },
+    { PvPageNamingStyleMemory, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Paarspiel") },
+    { PvPageNamingStyleCollegeBlock, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Collegeblock") },
+    { PvPageNamingStylePremiumPillow, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Premium-Kissen") },
+    { PvPageNamingStyleSticker, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Sticker") },
+    { PvPageNamingStyleAddressbook, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Adressbuch") },
+    { PvPageNamingStyleCalendarAnnualDuplex, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Jahreskalender beidseitig") },
+    { PvPageNamingStylePlayingCards, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Spielkarten") },
+    { PvPageNamingStyleQuartetCards, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Quartett") },
+    { PvPageNamingStyleNumberedCards, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Nummerierte Karten") },
+    { PvPageNamingStyleAgenda, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Terminplaner") },
+    { PvPageNamingStyleSheepsheadCards, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Schafkopfkarten") },
+    { PvPageNamingStylePostcard, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Postkarte") },
+    { PvPageNamingStyleArtPrint, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Kunstdruck") },
+    { PvPageNamingStyleAdventcalendar, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Adventskalender") },
+    { PvPageNamingStyleMiniPrint, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Mini-Abzüge") },
+    { PvPageNamingStyleNone, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Ohne Seitennamen") },
+    { PvPageNamingStyleDeluxeadventcalendar, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Deluxe-Adventskalender") },
+    { PvPageNamingStylePictureBox, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Bilderbox") },
+    { PvPageNamingStyleMagnet, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Magnet") },
+    { PvPageNamingStyleAdventcalendarDoorBackprint, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Adventskalender mit Türchenrückseiten") },
+    { PvPageNamingStyleKidsBook, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Kinderbuch") },
+    { PvPageNamingStyleCardWithInsertedCard, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Karte mit Einlegekarte") },
+    { PvPageNamingStyleLayingGame, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Legespiel") },
+    { PvPageNamingStylePosterWithCutout, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Poster mit Ausschnitt") },
+    { PvPageNamingStyleAdv41, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Adventskalender 4+1") },
+    { PvPageNamingStyleSlipcase, QT_TRANSLATE_NOOP("PvPageNamingStyle", "Schuber") },
+};
+}
+
+QString PvPageNamingStyle::humanReadableName() const
+{
+    return pvTranslatedText("PvPageNamingStyle", displayNames, m_value);
+}

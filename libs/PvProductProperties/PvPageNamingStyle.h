@@ -43,15 +43,22 @@ enum PvPageNamingStyleEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvPageNamingStyle : public PvEnumWrapper<PvPageNamingStyleEnum>
 {
 public:
+    //! The style \a value.
     PvPageNamingStyle(PvPageNamingStyleEnum value = PvPageNamingStyleEnum(0)) noexcept;
+    //! The styles named in the comma-separated \a text.
     explicit PvPageNamingStyle(const QString& text);
 
     //! The style stored numerically in the attribute "pagenaming" of \a element; 0 when absent.
     [[nodiscard]] static PvPageNamingStyle fromXml(const QDomElement& element);
     //! Writes the value as a signed decimal, so "slipcase" (the sign bit) reads -2147483648.
     void toXml(QDomElement& element) const;
+    //! The attribute that fromXml() and toXml() use: "pagenaming".
     [[nodiscard]] static QString defaultAttributeName();
 
+    //! The translated display name of a single style, e.g. "Kalender"; empty for 0 and for combinations.
+    [[nodiscard]] QString humanReadableName() const;
+
 protected:
+    //! Fills the table with the styles' names.
     void fillTable(Table* table) const override;
 };

@@ -9,14 +9,19 @@ class PVPRODUCTPROPERTIES_EXPORT PvPageTiltRedirect
 {
 public:
     PvPageTiltRedirect() = default;
+    //! Page \a targetPageNr takes its tilt from page \a sourcePageNr, times \a angleInvert.
     PvPageTiltRedirect(int sourcePageNr, int targetPageNr, int angleInvert);
 
+    //! The page whose tilt is taken over.
     [[nodiscard]] int sourcePageNr() const { return m_sourcePageNr; }
+    //! The page that takes it over.
     [[nodiscard]] int targetPageNr() const { return m_targetPageNr; }
     //! Factor applied to the redirected angle: 1 keeps it, -1 inverts it.
     [[nodiscard]] int angleInvert() const { return m_angleInvert; }
 
+    //! Equal in every field.
     [[nodiscard]] bool operator==(const PvPageTiltRedirect& other) const;
+    //! Differs in some field.
     [[nodiscard]] bool operator!=(const PvPageTiltRedirect& other) const { return !(*this == other); }
 
 private:

@@ -17,6 +17,8 @@ public:
      */
     explicit PvPageTiltRedirectList(const QDomElement& element);
 
+    //! The redirects whose source is page \a pageNr, in order.
     [[nodiscard]] PvPageTiltRedirectList filterBySourcePage(int pageNr) const;
+    //! The redirects whose target is page \a pageNr, in order.
     [[nodiscard]] PvPageTiltRedirectList filterByTargetPage(int pageNr) const;
 };

@@ -11,17 +11,25 @@ class PVPRODUCTPROPERTIES_EXPORT PvPaperAndBinding
 {
 public:
     PvPaperAndBinding();
+    //! \a paperType bound with \a binding.
     PvPaperAndBinding(const PvPaperType& paperType, const PvPageBinding& binding);
+    //! Plain values.
+    //! @{
     PvPaperAndBinding(const PvPaperAndBinding& other);
     PvPaperAndBinding(PvPaperAndBinding&& other) noexcept;
     PvPaperAndBinding& operator=(const PvPaperAndBinding& other);
     PvPaperAndBinding& operator=(PvPaperAndBinding&& other) noexcept;
     virtual ~PvPaperAndBinding();
+    //! @}
 
+    //! The paper.
     [[nodiscard]] PvPaperType paperType() const { return m_paperType; }
+    //! The binding.
     [[nodiscard]] PvPageBinding binding() const { return m_binding; }
 
+    //! The same paper and binding.
     [[nodiscard]] bool operator==(const PvPaperAndBinding& other) const;
+    //! Differs in paper or binding.
     [[nodiscard]] bool operator!=(const PvPaperAndBinding& other) const { return !(*this == other); }
 
     //! A digital print paper, plain or premium, in layflat binding.

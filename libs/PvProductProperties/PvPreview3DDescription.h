@@ -24,23 +24,29 @@ public:
     PvPreview3DDescription();
     //! Reads the "preview3D" child of a "product" element.
     explicit PvPreview3DDescription(const QDomElement& product);
+    //! Copies share their data.
+    //! @{
     PvPreview3DDescription(const PvPreview3DDescription& other);
     PvPreview3DDescription(PvPreview3DDescription&& other) noexcept;
     PvPreview3DDescription& operator=(const PvPreview3DDescription& other);
     PvPreview3DDescription& operator=(PvPreview3DDescription&& other) noexcept;
     ~PvPreview3DDescription();
+    //! @}
 
     /*!
      * Reads the "preview3D" child of \a product (or \a product itself when it is the
      * "preview3D" element). The page needs a texture target to name the mesh it paints, so a
      * mesh without any "textureTarget" is dropped with the warning
-     *     3D preview of product "<name>" has a mesh but no textureTarget; the product gets no 3D preview.
-     * where <name> is the "name" attribute of the product element.
+     *     3D preview of product "\<name\>" has a mesh but no textureTarget; the product gets no 3D preview.
+     * where \<name\> is the "name" attribute of the product element.
      */
     void init(const QDomElement& product);
 
+    //! The model file ("file" of "mesh"); empty for no 3D preview.
     [[nodiscard]] QString mesh() const;
+    //! Which page pictures go onto which parts of the model.
     [[nodiscard]] QList<PvTextureTarget> textureTargets() const;
+    //! Where the ring of a cup lies on its picture; all 0 when not given.
     [[nodiscard]] QRectF cupRingRect() const;
     //! 0 without a mesh; 1 unless the mesh says otherwise.
     [[nodiscard]] int pagesPer3DModel() const;

@@ -15,7 +15,9 @@ enum PvProductAlignmentStyleEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvProductAlignmentStyle : public PvEnumWrapper<PvProductAlignmentStyleEnum>
 {
 public:
+    //! The style \a value.
     PvProductAlignmentStyle(PvProductAlignmentStyleEnum value = PvProductAlignmentStyleEnum(0)) noexcept;
+    //! The styles named in the comma-separated \a text.
     explicit PvProductAlignmentStyle(const QString& text);
 
     //! ORs the styles named in \a text into the value; unknown words add nothing.
@@ -24,5 +26,6 @@ public:
     [[nodiscard]] bool hasOnlySinglePages() const;
 
 protected:
+    //! Fills the table with the styles' names.
     void fillTable(Table* table) const override;
 };

@@ -19,18 +19,25 @@ public:
     PvProductClassification();
     //! Reads the "product" element \a product and its first child "classification".
     explicit PvProductClassification(const QDomElement& product);
+    //! Plain values.
+    //! @{
     PvProductClassification(const PvProductClassification& other);
     PvProductClassification(PvProductClassification&& other) noexcept;
     PvProductClassification& operator=(const PvProductClassification& other);
     PvProductClassification& operator=(PvProductClassification&& other) noexcept;
     virtual ~PvProductClassification();
+    //! @}
 
+    //! Whether the product type is set.
     [[nodiscard]] bool isValid() const { return m_productType.isValid(); }
+    //! The material group ("group").
     [[nodiscard]] PvProductClassificationGroup group() const { return m_group; }
+    //! The product type classified.
     [[nodiscard]] PvProductType productType() const { return m_productType; }
 
     //! The inch size name for inches, the centimetre size name for every other unit.
     [[nodiscard]] QString sizeName(const PvDistanceUnit& unit) const;
+    //! The size name in \a unit, as the choosers show it; the same as sizeName().
     [[nodiscard]] QString visibleName(const PvDistanceUnit& unit) const;
     //! The size name followed by the unit's name, such as "30x40 cm".
     [[nodiscard]] QString sizeNameWithUnit(const PvDistanceUnit& unit) const;

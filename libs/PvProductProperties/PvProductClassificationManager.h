@@ -19,22 +19,29 @@ class PVPRODUCTPROPERTIES_EXPORT PvProductClassificationManager
 {
 public:
     PvProductClassificationManager();
+    //! A manager over \a classifications, in that order.
     explicit PvProductClassificationManager(const QList<PvProductClassification>& classifications);
+    //! Plain values; copies copy the list.
+    //! @{
     PvProductClassificationManager(const PvProductClassificationManager& other);
     PvProductClassificationManager(PvProductClassificationManager&& other) noexcept;
     PvProductClassificationManager& operator=(const PvProductClassificationManager& other);
     PvProductClassificationManager& operator=(PvProductClassificationManager&& other) noexcept;
     virtual ~PvProductClassificationManager();
+    //! @}
 
+    //! The classifications, in order.
     [[nodiscard]] QList<PvProductClassification> classifications() const { return m_classifications; }
 
     //! The distinct groups in the order they first appear.
     [[nodiscard]] QList<PvProductClassificationGroup> classificationGroups() const;
     //! The product type of \a group in the size named \a name in \a unit; empty when there is none.
     [[nodiscard]] PvProductType type(const PvProductClassificationGroup& group, const QString& name, const PvDistanceUnit& unit) const;
+    //! The size name of \a productType in \a unit; empty when it is not listed.
     [[nodiscard]] QString classificationName(const PvProductType& productType, const PvDistanceUnit& unit) const;
     //! The size names of \a group, without duplicates.
     [[nodiscard]] QStringList classificationNames(const PvProductClassificationGroup& group, const PvDistanceUnit& unit) const;
+    //! The group of \a productType; an empty group when it is not listed.
     [[nodiscard]] PvProductClassificationGroup classificationGroup(const PvProductType& productType) const;
     /*!
      * The product of group \a groupValue whose diagonal is nearest to that of \a productType

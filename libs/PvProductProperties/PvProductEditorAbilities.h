@@ -25,28 +25,42 @@ public:
     PvProductEditorAbilities();
     //! Reads an "editorAbilities" element; any other element gives the defaults.
     explicit PvProductEditorAbilities(const QDomElement& element);
+    //! Values share their read-only data; copies are cheap.
+    //! @{
     PvProductEditorAbilities(const PvProductEditorAbilities& other);
     PvProductEditorAbilities(PvProductEditorAbilities&& other) noexcept;
     PvProductEditorAbilities& operator=(const PvProductEditorAbilities& other);
     PvProductEditorAbilities& operator=(PvProductEditorAbilities&& other) noexcept;
     ~PvProductEditorAbilities();
+    //! @}
 
     //! Leaves out the user page tilt and the date range constraint, on purpose.
     bool operator==(const PvProductEditorAbilities& other) const;
+    //! The opposite of ==.
     bool operator!=(const PvProductEditorAbilities& other) const { return !(*this == other); }
 
+    //! Whether the editor offers its assistant ("hasAssistant").
     [[nodiscard]] bool hasAssistant() const;
+    //! Whether a project may be converted to another product ("isConvertable").
     [[nodiscard]] bool isConvertable() const;
+    //! How the editor names the pages ("pageNamingStyle").
     [[nodiscard]] PvPageNamingStyle pageNamingStyle() const;
+    //! Which pages the user may turn ("pageTilt").
     [[nodiscard]] PvUserPageTiltConfig userPageTiltConfig() const;
+    //! The page the editor opens first ("startPage", default 0).
     [[nodiscard]] int editorStartPage() const;
+    //! The dates a calendar may start at ("dateRangeConstraint").
     [[nodiscard]] PvDateRangeConstraint dateRangeConstraint() const;
+    //! Whether the editor shows the button to change the base design.
     [[nodiscard]] bool showChangeBaseDesignButton() const;
 
     //! Jig types not listed under "jigs" are enabled.
     [[nodiscard]] bool isJigEnabled(const PvJigType& jigType) const;
+    //! Whether backgrounds may be rotated.
     [[nodiscard]] bool canRotateBackgrounds() const;
+    //! Whether one background fills each whole page.
     [[nodiscard]] bool fullBackgroundOnEachPage() const;
+    //! Whether content of \a jigType must match the article exactly.
     [[nodiscard]] bool requiresExactArticle(const PvJigType& jigType) const;
     //! The categories allowed for \a jigType on exactly \a pageType; empty when not limited.
     [[nodiscard]] PvThematicCategorySet allowedCategories(const PvJigType& jigType, const PvPageType& pageType) const;

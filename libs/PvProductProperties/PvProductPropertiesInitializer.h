@@ -10,6 +10,8 @@
 class PVPRODUCTPROPERTIES_EXPORT PvProductPropertiesInitializer : public PvInitializerAbstract
 {
 public:
+    //! Creates the product type registry and registers it as a product checker.
     void setup(PvInitializerOption option) override;
+    //! Nothing: the registries live until the process ends.
     void teardown() override;
 };

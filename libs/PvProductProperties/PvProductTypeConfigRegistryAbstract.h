@@ -35,18 +35,22 @@ public:
     PvProductTypeConfigRegistryAbstract(const PvProductTypeConfigRegistryAbstract&) = delete;
     PvProductTypeConfigRegistryAbstract& operator=(const PvProductTypeConfigRegistryAbstract&) = delete;
 
+    //! Whether \a type has a valid description here.
     [[nodiscard]] bool isValid(const PvProductType& type) const override;
     //! The checker kind of product type registries.
     [[nodiscard]] int type() const override;
+    //! Always true: product type registries accept every box style.
     [[nodiscard]] bool isValidBoxStyle(const PvProductType& type, const PvArticleVariants& variants) const override;
     //! The directories to load from; a product type of an earlier directory wins.
     [[nodiscard]] virtual QList<QDir> supervisedDirs() const = 0;
 
     //! The description of \a type, or the void description when the type is unknown.
     [[nodiscard]] const PvProductTypeDescription* description(const PvProductType& type) const;
+    //! The description that lookups of unknown types yield.
     [[nodiscard]] const PvProductTypeDescription* voidDescription() const;
     //! The same as isValid().
     [[nodiscard]] bool exists(const PvProductType& type) const;
+    //! The article class of \a type; 0 when unknown.
     [[nodiscard]] PvArticleClass articleClass(const PvProductType& type) const;
     //! Whether the type's article class shares a bit with \a articleClass.
     [[nodiscard]] bool hasArticleClass(const PvProductType& type, const PvArticleClass& articleClass) const;
@@ -57,8 +61,11 @@ public:
     //! The first type of \a types with a valid description; an empty type when there is none.
     [[nodiscard]] PvProductType firstValidProduct(const PvProductTypeList& types) const;
 
+    //! Whether the pages of \a type lie side by side.
     [[nodiscard]] bool horizontalPages(const PvProductType& type) const;
+    //! The configured article variants of \a type.
     [[nodiscard]] PvConfiguredArticleVariantList variants(const PvProductType& type) const;
+    //! Whether one background fills each whole page of \a type.
     [[nodiscard]] bool fullBackgroundOnEachPage(const PvProductType& type) const;
     //! The production numbers of a project of \a pageCount pages; see the description's.
     [[nodiscard]] QList<int> productionNumberingList(const PvProductType& type, int pageCount) const;

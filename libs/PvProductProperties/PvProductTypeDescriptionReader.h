@@ -17,6 +17,7 @@ class PvProductTypeDescription;
 class PVPRODUCTPROPERTIES_EXPORT PvProductTypeDescriptionReader
 {
 public:
+    //! A reader of the product files directly inside \a dir.
     explicit PvProductTypeDescriptionReader(const QDir& dir);
     virtual ~PvProductTypeDescriptionReader();
 

@@ -24,23 +24,31 @@ public:
     PvSpiralConfig();
     //! Reads a "spirals" element; a null element gives count 0 with the usual loop sizes.
     explicit PvSpiralConfig(const QDomElement& element);
+    //! Values own their cached pictures; a copy takes them along.
+    //! @{
     PvSpiralConfig(const PvSpiralConfig& other);
     PvSpiralConfig(PvSpiralConfig&& other) noexcept;
     PvSpiralConfig& operator=(const PvSpiralConfig& other);
     PvSpiralConfig& operator=(PvSpiralConfig&& other) noexcept;
     virtual ~PvSpiralConfig();
+    //! @}
 
+    //! Whether there are loops at all.
     [[nodiscard]] bool hasSpiral() const { return m_count > 0; }
+    //! The number of loops ("count").
     [[nodiscard]] int spiralCount() const { return m_count; }
     //! Both hook sizes are set.
     [[nodiscard]] bool hasHook() const { return m_hookWidth != 0 && m_hookHeight != 0; }
+    //! Width of the gap for the hook ("hookWidth").
     [[nodiscard]] int hookWidth() const { return m_hookWidth; }
+    //! Height of the gap for the hook ("hookHeight").
     [[nodiscard]] int hookHeight() const { return m_hookHeight; }
     //! The file name of the loop picture in the thumbnails directory.
     [[nodiscard]] QString variant() const { return m_variant; }
 
     //! Compares count and hook size only; loop sizes, picture and colours do not count.
     bool operator==(const PvSpiralConfig& other) const;
+    //! The opposite of ==.
     bool operator!=(const PvSpiralConfig& other) const { return !(*this == other); }
     //! By count, then this hook width against the other's hook height, then hook height.
     bool operator<(const PvSpiralConfig& other) const;

@@ -23,5 +23,6 @@ public:
      * nothing fits.
      */
     [[nodiscard]] PvSurroundingDescription findDescription(const PvSurroundingKey& key) const;
+    //! Whether some description draws a binding shade.
     [[nodiscard]] bool hasSurroundingWithBindingShade() const;
 };

@@ -17,19 +17,29 @@ public:
     PvSurroundingKey();
     //! \a pageIndex -1 stands for any page.
     PvSurroundingKey(const PvPageContext& pageContext, int pageIndex, const PvArticleVariants& variant);
+    //! Keys are plain values.
+    //! @{
     PvSurroundingKey(const PvSurroundingKey& other);
     PvSurroundingKey(PvSurroundingKey&& other) noexcept;
     PvSurroundingKey& operator=(const PvSurroundingKey& other);
     PvSurroundingKey& operator=(PvSurroundingKey&& other) noexcept;
     virtual ~PvSurroundingKey();
+    //! @}
 
+    //! The page's type and alignment.
     [[nodiscard]] PvPageContext pageContext() const { return m_pageContext; }
+    //! The page's index; -1 for any page.
     [[nodiscard]] int pageIndex() const { return m_pageIndex; }
+    //! The chosen article variants.
     [[nodiscard]] PvArticleVariants variant() const { return m_variant; }
+    //! The page's type.
     [[nodiscard]] PvPageType pageType() const { return m_pageContext.pageType(); }
+    //! The page's alignment.
     [[nodiscard]] PvPageAlignment alignment() const { return m_pageContext.alignment(); }
 
+    //! Equal context, index and variants.
     bool operator==(const PvSurroundingKey& other) const;
+    //! Differs in some field.
     bool operator!=(const PvSurroundingKey& other) const { return !(*this == other); }
 
     /*!

@@ -28,9 +28,12 @@ enum PvSurroundingTypeEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvSurroundingType : public PvEnumWrapper<PvSurroundingTypeEnum>
 {
 public:
+    //! The type \a value.
     PvSurroundingType(PvSurroundingTypeEnum value = PvSurroundingTypeEnum(0)) noexcept;
+    //! The types named in the comma-separated \a text.
     explicit PvSurroundingType(const QString& text);
 
 protected:
+    //! Fills the table with the types' names.
     void fillTable(Table* table) const override;
 };

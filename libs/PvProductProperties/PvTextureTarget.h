@@ -16,14 +16,17 @@ public:
 
     //! The name of the model part that receives the texture.
     [[nodiscard]] QString name() const { return m_name; }
+    //! The part of the page's picture that is used.
     [[nodiscard]] QRectF rect() const { return m_rect; }
     //! The index of the page whose picture is used.
     [[nodiscard]] int page() const { return m_page; }
 
+    //! Equal in every field.
     friend bool operator==(const PvTextureTarget& a, const PvTextureTarget& b)
     {
         return a.m_name == b.m_name && a.m_rect == b.m_rect && a.m_page == b.m_page;
     }
+    //! Differs in some field.
     friend bool operator!=(const PvTextureTarget& a, const PvTextureTarget& b) { return !(a == b); }
 
 private:

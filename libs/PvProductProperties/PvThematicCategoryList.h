@@ -12,6 +12,7 @@ class PVPRODUCTPROPERTIES_EXPORT PvThematicCategoryList : public QList<PvThemati
 {
 public:
     PvThematicCategoryList();
+    //! The list of \a categories, in their order.
     PvThematicCategoryList(const QList<PvThematicCategory>& categories);
     //! The set's elements in its iteration order.
     explicit PvThematicCategoryList(const PvThematicCategorySet& categories);

@@ -36,6 +36,7 @@ public:
     //! Loads "dlp-categories_<language code>_.ts" from the supervised directories.
     bool loadDLPCategoryTSFiles();
 
+    //! Reads the ".ts" document of \a file; the flag is ignored.
     bool parseXML(const QFileInfo& file, bool reload) override;
     //! Reads one ".ts" document; false (with a warning) when it is not one.
     bool parseXML(const QDomElement& root);
@@ -48,12 +49,15 @@ public:
      * itself when none is found.
      */
     [[nodiscard]] QString translation(const QString& text, const QLocale& locale) const;
+    //! The same as translation().
     [[nodiscard]] QString translate(const QString& text, const QLocale& locale) const;
     //! The visible name of \a category in the current locale; master mode appends the
     //! untranslated name in brackets.
     [[nodiscard]] QString humanReadable(const PvThematicCategory& category) const;
+    //! The visible names of \a categories, as humanReadable() gives them.
     [[nodiscard]] QStringList toVisibleStringList(const PvThematicCategorySet& categories) const;
 
+    //! The application's thematic translation directories.
     [[nodiscard]] QList<QDir> supervisedDirectories() const override;
     //! Files holding the language code between underscores; the code is the one current at
     //! the first call, for the life of the process.

@@ -14,7 +14,9 @@ public:
     //! Reads a "pageTilt" element; a null element keeps the defaults (nothing disabled).
     explicit PvUserPageTiltConfig(const QDomElement& element);
 
+    //! Whether turning pages is disabled ("disabled").
     [[nodiscard]] bool isDisabled() const { return m_disabled; }
+    //! The pages it is disabled on; empty for every page.
     [[nodiscard]] QList<int> pages() const { return m_pages; }
     //! Disabling without a page list disables every page.
     [[nodiscard]] bool isPageRotationDisabled(int pageNr) const;

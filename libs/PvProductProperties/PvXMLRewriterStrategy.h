@@ -17,9 +17,12 @@ enum PvXMLRewriterStrategyEnum : quint32 {
 class PVPRODUCTPROPERTIES_EXPORT PvXMLRewriterStrategy : public PvEnumWrapper<PvXMLRewriterStrategyEnum>
 {
 public:
+    //! The strategy \a value.
     PvXMLRewriterStrategy(PvXMLRewriterStrategyEnum value = PvXMLRewriterStrategyEnum(0)) noexcept;
+    //! The strategies named in the comma-separated \a text.
     explicit PvXMLRewriterStrategy(const QString& text);
 
 protected:
+    //! Fills the table with the strategies' names.
     void fillTable(Table* table) const override;
 };

@@ -49,8 +49,10 @@ template <typename T>
 class PvEnumToStringTable
 {
 public:
+    //! The enumeration's underlying integer type.
     using Underlying = std::underlying_type_t<T>;
 
+    //! Adds \a text for \a value; the first text of a value is the one written.
     void insert(const QString& text, T value)
     {
         stringToEnum.insert(text.toLower(), value);
@@ -65,6 +67,7 @@ public:
             insert(QString::fromUtf8(text), value);
     }
 
+    //! The value of \a text, ignoring case and surrounding blanks; none for an unknown text.
     [[nodiscard]] std::optional<T> decode(const QString& text) const
     {
         const auto it = stringToEnum.constFind(text.trimmed().toLower());
@@ -74,6 +77,7 @@ public:
     }
 
     // Empty pieces are kept: they decode to unknownValue like any unknown text.
+    //! The values of the comma-separated \a text OR-ed together; an unknown part gives unknownValue.
     [[nodiscard]] T decodeCSV(const QString& text) const
     {
         Underlying result = 0;
@@ -83,6 +87,7 @@ public:
         return static_cast<T>(result);
     }
 
+    //! The texts of the single bits of \a value, lowest first; unknownString for a bit without text.
     [[nodiscard]] QStringList encodeAsList(T value) const
     {
         QStringList texts;
@@ -91,14 +96,19 @@ public:
         return texts;
     }
 
+    //! encodeAsList() joined by ", "; unknownString for 0.
     [[nodiscard]] QString encodeCSV(T value) const
     {
         const QStringList texts = encodeAsList(value);
         return texts.isEmpty() ? unknownString : texts.join(QStringLiteral(", "));
     }
 
+    //! From lower-case text to value.
     QHash<QString, T> stringToEnum;
+    //! From value to its written text.
     QHash<T, QString> enumToString;
+    //! Written for a bit without text, and for 0.
     QString unknownString;
+    //! Decoded from an unknown text.
     T unknownValue = static_cast<T>(0);
 };

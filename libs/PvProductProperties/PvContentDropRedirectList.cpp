@@ -5,9 +5,10 @@
 #include <QStringList>
 
 namespace {
-// A product has a few hundred pages at most; a wider range is a typo that would otherwise
-// fill memory with one entry per page.
+// A product has a few hundred pages at most: a wider range is a typing error. Ranges no longer
+// cost memory per page, but files rely on the warning.
 constexpr qint64 maximumRangeWidth = 100000;
+constexpr int noRedirect = -1;
 }
 
 PvContentDropRedirectList::PvContentDropRedirectList(const QDomElement& contentredirects)
@@ -36,12 +37,32 @@ void PvContentDropRedirectList::read(const QDomElement& contentredirect)
         qWarning("parse error");
         return;
     }
-    // Wide counter: an end of INT_MAX must not overflow the loop.
-    for (qint64 page = start; page <= end; ++page)
-        m_redirects.insert(int(page), to);
+    if (start <= end)
+        redirect(start, end, to);
+}
+
+// A later redirect wins over an earlier one on the pages they share.
+void PvContentDropRedirectList::redirect(qint64 first, qint64 last, int target)
+{
+    // Wide keys: the run after a range that ends at INT_MAX starts beyond int.
+    const int after = targetAt(last + 1);
+    auto it = m_runs.lowerBound(first);
+    while (it != m_runs.end() && it.key() <= last + 1)
+        it = m_runs.erase(it);
+    m_runs.insert(first, target);
+    m_runs.insert(last + 1, after);
+}
+
+int PvContentDropRedirectList::targetAt(qint64 page) const
+{
+    auto it = m_runs.upperBound(page);
+    if (it == m_runs.cbegin())
+        return noRedirect;
+    return (--it).value();
 }
 
 int PvContentDropRedirectList::targetPage(int page) const
 {
-    return m_redirects.value(page, page);
+    const int target = targetAt(page);
+    return target == noRedirect ? page : target;
 }

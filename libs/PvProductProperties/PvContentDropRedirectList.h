@@ -22,6 +22,10 @@ public:
 
 private:
     void read(const QDomElement& contentredirect);
+    void redirect(qint64 first, qint64 last, int target);
+    [[nodiscard]] int targetAt(qint64 page) const;
 
-    QMap<int, int> m_redirects;
+    // Ranges, not pages: each key starts a run of pages that share the target (or none, -1)
+    // up to the next key, so a file costs memory by its size, not by the widths it writes.
+    QMap<qint64, int> m_runs;
 };

@@ -41,24 +41,24 @@ void PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
     for (const PvPageType& pageType : pageTypes) {
         for (const PvPageAlignmentEnum alignment : alignments) {
             const PvPageContext context(pageType, alignment);
-            m_templates.insert(PvDefaultTemplateKey(context, PvDefaultTemplateTypeLayout, pageNumber, scenePageCount), layout);
-            m_templates.insert(PvDefaultTemplateKey(context, PvDefaultTemplateTypeBackground, pageNumber, scenePageCount), background);
-            m_templates.insert(PvDefaultTemplateKey(context, PvDefaultTemplateTypeDesign, pageNumber, scenePageCount), design);
+            m_templates.insert({ PvDefaultTemplateKey(context, PvDefaultTemplateTypeLayout, pageNumber, scenePageCount) }, layout);
+            m_templates.insert({ PvDefaultTemplateKey(context, PvDefaultTemplateTypeBackground, pageNumber, scenePageCount) }, background);
+            m_templates.insert({ PvDefaultTemplateKey(context, PvDefaultTemplateTypeDesign, pageNumber, scenePageCount) }, design);
         }
     }
 }
 
 QString PvDefaultTemplateMap::findTemplate(const PvDefaultTemplateKey& key) const
 {
-    const QString exact = m_templates.value(key);
+    const QString exact = m_templates.value({ key });
     if (!exact.isEmpty())
         return exact;
     if (key.scenePageCount() != -1) {
-        const QString forScene = m_templates.value(key.generalized(key.scenePageCount()));
+        const QString forScene = m_templates.value({ key.generalized(key.scenePageCount()) });
         if (!forScene.isEmpty())
             return forScene;
     }
-    return m_templates.value(key.generalized(-1));
+    return m_templates.value({ key.generalized(-1) });
 }
 
 QString PvDefaultTemplateMap::removeUmlauts(const QString& text)

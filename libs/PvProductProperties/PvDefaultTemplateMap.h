@@ -33,5 +33,18 @@ public:
 private:
     void applyDefault(const QDomElement& entry);
 
-    QHash<PvDefaultTemplateKey, QString> m_templates;
+    // Stored under a hash of every field: the key's own hash leaves out page number and scene
+    // page count, so a file with many numbered pages would put them all in one bucket and
+    // make reading it quadratic.
+    struct StoredKey
+    {
+        PvDefaultTemplateKey key;
+        friend bool operator==(const StoredKey& a, const StoredKey& b) { return a.key == b.key; }
+        friend size_t qHash(const StoredKey& stored, size_t seed) noexcept
+        {
+            return qHashMulti(seed, qHash(stored.key), stored.key.pageNumber(), stored.key.scenePageCount());
+        }
+    };
+
+    QHash<StoredKey, QString> m_templates;
 };

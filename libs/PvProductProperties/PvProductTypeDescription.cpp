@@ -1,5 +1,6 @@
 #include "PvProductTypeDescription.h"
 
+#include "PvProductPropertiesLogging.h"
 #include "PvSurroundingKey.h"
 #include "PvXMLParser.h"
 
@@ -16,12 +17,29 @@ QDomElement child(const QDomElement& element, const char* name)
     return element.firstChildElement(QString::fromLatin1(name));
 }
 
-// Appends \a count page types, cycling through \a cycle from its start.
-void appendCycle(PvPageTypeList& pages, unsigned int count, std::initializer_list<PvPageTypeEnum> cycle)
+// The longest page list pageTypes() builds. The thickest products have a few hundred pages;
+// a list that many runs or year runs would make longer is a mistake in the file, and without
+// the bound it would cost (runs x page count) on every request.
+constexpr qsizetype maximumExpandedPages = 10000;
+
+// Appends \a count page types, cycling through \a cycle from its start, as far as the bound
+// leaves room; answers whether all of them fitted.
+bool appendCycle(PvPageTypeList& pages, unsigned int count, std::initializer_list<PvPageTypeEnum> cycle)
 {
+    const qsizetype room = maximumExpandedPages - pages.size();
+    const qsizetype fitting = std::min<qsizetype>(count, std::max<qsizetype>(room, 0));
     const auto first = cycle.begin();
-    for (unsigned int i = 0; i < count; ++i)
-        pages.append(PvPageType(*(first + i % cycle.size())));
+    for (qsizetype i = 0; i < fitting; ++i)
+        pages.append(PvPageType(*(first + i % qsizetype(cycle.size()))));
+    return fitting == qsizetype(count);
+}
+
+bool appendBounded(PvPageTypeList& pages, const PvPageType& type)
+{
+    if (pages.size() >= maximumExpandedPages)
+        return false;
+    pages.append(type);
+    return true;
 }
 
 PvPageAlignment horizontalOr(bool horizontal, PvPageAlignmentEnum side, PvPageAlignmentEnum stacked)
@@ -183,6 +201,7 @@ bool PvProductTypeDescription::isEasyCard() const
 PvPageTypeList PvProductTypeDescription::pageTypes(unsigned int pageCount) const
 {
     PvPageTypeList pages;
+    bool complete = true;
     unsigned int remaining = pageCount;
     for (const PvPageType& entry : m_pageTypes) {
         switch (entry.toUnderlying()) {
@@ -194,31 +213,36 @@ PvPageTypeList PvProductTypeDescription::pageTypes(unsigned int pageCount) const
             // zero-page request would turn the next run into four billion pages.
             if (remaining > 0)
                 --remaining;
-            pages.append(entry);
+            complete &= appendBounded(pages, entry);
             break;
         case PvPageTypeRun:
-            appendCycle(pages, remaining, { PvPageTypePage });
+            complete &= appendCycle(pages, remaining, { PvPageTypePage });
             break;
         case PvPageTypeRunRightLeft:
-            appendCycle(pages, remaining, { PvPageTypePageRight, PvPageTypePageLeft });
+            complete &= appendCycle(pages, remaining, { PvPageTypePageRight, PvPageTypePageLeft });
             break;
         case PvPageTypeRunPairs:
-            appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageLeft, PvPageTypePageRight, PvPageTypePageRight });
+            complete &= appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageLeft, PvPageTypePageRight, PvPageTypePageRight });
             break;
         case PvPageTypeRunLeftRight:
-            appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageRight });
+            complete &= appendCycle(pages, remaining, { PvPageTypePageLeft, PvPageTypePageRight });
             break;
         case PvPageTypeRunYear:
             // A fixed year: a title page and 24 month pages, whatever page count is asked for.
-            pages.append(PvPageType(PvPageTypePage));
-            appendCycle(pages, 24, { PvPageTypeMonthPage });
+            complete &= appendBounded(pages, PvPageType(PvPageTypePage));
+            complete &= appendCycle(pages, 24, { PvPageTypeMonthPage });
             break;
         case PvPageTypeJacket:
-            pages.appendEnum({ PvPageTypeJacketFlapLeft, PvPageTypeJacketBack, PvPageTypeJacketFront, PvPageTypeJacketFlapRight });
+            for (const PvPageTypeEnum part : { PvPageTypeJacketFlapLeft, PvPageTypeJacketBack, PvPageTypeJacketFront, PvPageTypeJacketFlapRight })
+                complete &= appendBounded(pages, PvPageType(part));
             break;
         default:
-            pages.append(entry);
+            complete &= appendBounded(pages, entry);
         }
+    }
+    if (!complete) {
+        qCWarning(lcProductProperties, "Page list of product \"%s\" for %u pages cut at %lld pages",
+                  qUtf8Printable(m_productType.name()), pageCount, qlonglong(maximumExpandedPages));
     }
     if (pages.isEmpty())
         pages.append(PvPageType(PvPageTypePage));
@@ -261,7 +285,8 @@ PvPageAlignment PvProductTypeDescription::pageAlignment(const PvPageTypeList& pa
             break;
         }
     }
-    if (pages.containsPanoPageType() && index >= 0 && index < 4) {
+    // The index test first: scanning the list for every page would make a walk over all pages quadratic.
+    if (index >= 0 && index < 4 && pages.containsPanoPageType()) {
         if (index == 0)
             return PvPageAlignmentLeft;
         if (index == 1 && pages.constFirst() == PvPageTypeOpeningPage)

@@ -113,7 +113,7 @@ public:
     /*!
      * The concrete page types of a project of \a pageCount pages: each run placeholder
      * stands for \a pageCount pages, less one for each cover page before it. Never empty.
-     * Each run costs memory in proportion to \a pageCount; callers pass real page counts.
+     * The list stops at 10000 pages, with a warning in "pv.productproperties".
      */
     [[nodiscard]] PvPageTypeList pageTypes(unsigned int pageCount) const;
     //! The stored production numbers of the first pages.

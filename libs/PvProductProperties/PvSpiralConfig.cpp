@@ -2,31 +2,69 @@
 
 #include "PvCSSSkinManager.h"
 #include "PvDirectoryConfig.h"
+#include "PvProductPropertiesLogging.h"
 #include "PvXMLParser.h"
 
 #include <QColor>
+#include <QDir>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTransform>
+#include <QtNumeric>
 
 #include <climits>
 #include <cmath>
+#include <limits>
 
 namespace {
-// Sizes come from product files: a picture beyond these bounds is refused, not allocated.
-constexpr qint64 maxPictureSide = 32767;
-constexpr qint64 maxPicturePixels = qint64(1) << 26;
+// Sizes come from product files. A spiral loop or hook opening is a few millimetres; one beyond
+// 20 cm, or a strip longer than a metre (the longest page edge a bound product has), is a typing
+// error: refused, not drawn. The pixel bound keeps any one picture within 16 MB.
+constexpr qint64 maxPartSide = 2000;
+constexpr qint64 maxStripLength = 10000;
+constexpr qint64 maxPicturePixels = qint64(1) << 22;
 
-bool isDrawableSize(qint64 width, qint64 height)
+bool isDrawableSize(qint64 width, qint64 height, qint64 maxWidth, qint64 maxHeight)
 {
-    return width >= 1 && height >= 1 && width <= maxPictureSide && height <= maxPictureSide
-        && width * height <= maxPicturePixels;
+    return width >= 1 && height >= 1 && width <= maxWidth && height <= maxHeight && width * height <= maxPicturePixels;
+}
+
+// Answers whether a picture of that size may be drawn; says why not when it may not.
+bool checkPictureSize(const char* picture, qint64 width, qint64 height, qint64 maxWidth, qint64 maxHeight)
+{
+    if (isDrawableSize(width, height, maxWidth, maxHeight))
+        return true;
+    // An empty size is "nothing to draw", not a mistake worth a word.
+    if (width >= 1 && height >= 1) {
+        qCWarning(lcProductProperties, "Spiral %s of %lld x %lld exceeds %lld x %lld or %lld pixels, not drawn", picture,
+                  qlonglong(width), qlonglong(height), qlonglong(maxWidth), qlonglong(maxHeight), qlonglong(maxPicturePixels));
+    }
+    return false;
 }
 
 int clampedToInt(qint64 value)
 {
     return int(qBound(qint64(INT_MIN), value, qint64(INT_MAX)));
+}
+
+// Picture paths come from product files: they must name a file inside the thumbnails folder.
+bool staysInsideFolder(const QString& path)
+{
+    if (path.startsWith(QLatin1Char('/')) || path.startsWith(QLatin1Char('\\')) || path.startsWith(QLatin1Char(':'))
+        || QDir::isAbsolutePath(path) || (path.size() > 1 && path.at(1) == QLatin1Char(':')))
+        return false;
+    static const QRegularExpression separators(QStringLiteral("[/\\\\]"));
+    return !path.split(separators).contains(QStringLiteral(".."));
+}
+
+QString confinedPath(const QString& path, const QString& fallback)
+{
+    if (staysInsideFolder(path))
+        return path;
+    qCWarning(lcProductProperties, "Picture path outside the thumbnails folder refused: \"%s\"", qUtf8Printable(path));
+    return fallback;
 }
 
 // One colour for every instance: the hook pictures follow the skin together.
@@ -50,8 +88,9 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     , m_loopHeight(PvXMLParser::intAttribute(element, QStringLiteral("loopHeight"), 150))
     , m_loopWidth(PvXMLParser::intAttribute(element, QStringLiteral("loopWidth"), 54))
     , m_loopDistance(PvXMLParser::intAttribute(element, QStringLiteral("loopDistance"), 30))
-    , m_variant(PvXMLParser::attribute(element, QStringLiteral("variant"), QStringLiteral("spiralbinding-one-loop-vertical.png")))
 {
+    const QString defaultVariant = QStringLiteral("spiralbinding-one-loop-vertical.png");
+    m_variant = confinedPath(PvXMLParser::attribute(element, QStringLiteral("variant"), defaultVariant), defaultVariant);
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
 }
 
@@ -67,7 +106,7 @@ void PvSpiralConfig::readLoopImages(const QDomElement& element)
     for (QDomElement child = element.firstChildElement(loopImage); !child.isNull(); child = child.nextSiblingElement(loopImage)) {
         const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"));
         const QString file = PvXMLParser::attribute(child, QStringLiteral("imagePath"));
-        if (!colour.isEmpty() && !file.isEmpty())
+        if (!colour.isEmpty() && !file.isEmpty() && !confinedPath(file, QString()).isEmpty())
             m_loopImages.insert(colour, file);
     }
 }
@@ -97,7 +136,13 @@ void PvSpiralConfig::setSpiralColor(const QString& colour)
 
 QSize PvSpiralConfig::spiralSize(Qt::Orientation orientation) const
 {
-    const int length = clampedToInt(qint64(m_count) * m_loopWidth + (qint64(m_count) - 1) * m_loopDistance);
+    // Each product fits in 64 bits, their sum may not: it saturates.
+    const qint64 loops = qint64(m_count) * m_loopWidth;
+    const qint64 gaps = (qint64(m_count) - 1) * m_loopDistance;
+    qint64 sum = 0;
+    if (qAddOverflow(loops, gaps, &sum))
+        sum = loops > 0 ? std::numeric_limits<qint64>::max() : std::numeric_limits<qint64>::min();
+    const int length = clampedToInt(sum);
     switch (orientation) {
     case Qt::Horizontal:
         return QSize(length, m_loopHeight);
@@ -111,9 +156,9 @@ QImage PvSpiralConfig::bindingLoopImage() const
 {
     if (!m_loopImageCache.isNull())
         return m_loopImageCache;
-    if (!isDrawableSize(m_loopWidth, m_loopHeight))
+    if (!checkPictureSize("loop", m_loopWidth, m_loopHeight, maxPartSide, maxPartSide))
         return QImage();
-    const QImage loaded(PvDirectoryConfig::instance().thumbnailsDir().absoluteFilePath(m_variant));
+    const QImage loaded(PvDirectoryConfig::instance().thumbnailsDir().filePath(m_variant));
     if (loaded.isNull())
         return QImage();
     m_loopImageCache = loaded.scaled(m_loopWidth, m_loopHeight, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -137,7 +182,7 @@ QImage PvSpiralConfig::spiralBindingLoopHorizontal(int loops) const
     const qint64 loopWidth = loop.width();
     const qint64 width = loopWidth * loops + (qint64(loops) - 1) * m_loopWidth;
     const qint64 height = loop.height();
-    if (!isDrawableSize(width, height))
+    if (!checkPictureSize("strip", width, height, maxStripLength, maxPartSide))
         return QImage();
 
     QImage strip(int(width), int(height), QImage::Format_ARGB32_Premultiplied);
@@ -176,7 +221,7 @@ QImage PvSpiralConfig::spiralHookImage() const
         return m_hookImageCache;
 
     m_hookImageCache = QImage();
-    if (!isDrawableSize(width, height))
+    if (!checkPictureSize("hook", width, height, maxPartSide, 2 * maxPartSide))
         return QImage();
     QImage hook(int(width), int(height), QImage::Format_ARGB32_Premultiplied);
     if (hook.isNull())

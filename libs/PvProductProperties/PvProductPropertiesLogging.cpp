@@ -1,0 +1,3 @@
+#include "PvProductPropertiesLogging.h"
+
+Q_LOGGING_CATEGORY(lcProductProperties, "pv.productproperties", QtWarningMsg)

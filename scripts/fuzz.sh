@@ -29,7 +29,7 @@ timeout_seconds=5
 rss_limit_mb=1024
 malloc_limit_mb() {
     case "$1" in
-    fuzz_spiral_pictures) echo 128 ;;
+    fuzz_spiral_pictures) echo 32 ;;
     *) echo 16 ;;
     esac
 }

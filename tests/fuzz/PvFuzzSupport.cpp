@@ -6,7 +6,20 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <cstdio>
 #include <cstdlib>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define PV_FUZZ_COUNTS_HEAP 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define PV_FUZZ_COUNTS_HEAP 1
+#endif
+#endif
+#ifdef PV_FUZZ_COUNTS_HEAP
+// From the sanitizer runtime; declared here because g++ does not install its header.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
+#endif
 
 namespace {
 void dropMessages(QtMsgType type, const QMessageLogContext&, const QString&)
@@ -63,6 +76,24 @@ QDomElement documentElement(const QByteArray& data)
     if (!document.setContent(data))
         return {};
     return document.documentElement();
+}
+
+qint64 heapInUse()
+{
+#ifdef PV_FUZZ_COUNTS_HEAP
+    return qint64(__sanitizer_get_current_allocated_bytes());
+#else
+    return 0;
+#endif
+}
+
+void checkHeldMemory(qint64 before, int limitMB, const char* what)
+{
+    const qint64 held = heapInUse() - before;
+    if (held <= qint64(limitMB) * 1024 * 1024)
+        return;
+    std::fprintf(stderr, "==PvFuzz== ERROR: %s holds %lld bytes, more than %d MB\n", what, static_cast<long long>(held), limitMB);
+    std::abort();
 }
 
 const QList<int>& pageCounts()

@@ -28,6 +28,14 @@ void initialize();
 
 //! Page counts that the harnesses ask about: real ones and the bounds of what callers pass.
 [[nodiscard]] const QList<int>& pageCounts();
+/*!
+ * Ends the process (a finding) when the heap holds more than \a limitMB megabytes beyond
+ * \a before, a heapInUse() taken earlier. Only sanitizer builds count the heap; elsewhere
+ * this checks nothing.
+ */
+void checkHeldMemory(qint64 before, int limitMB, const char* what);
+[[nodiscard]] qint64 heapInUse();
+
 //! No jig type, then every single bit.
 [[nodiscard]] const QList<PvJigType>& jigTypes();
 

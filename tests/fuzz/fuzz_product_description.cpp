@@ -113,8 +113,11 @@ void queryJigs(const PvProductTypeDescription& d)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     PvFuzz::initialize();
+    const qint64 before = PvFuzz::heapInUse();
     const QDomElement root = PvFuzz::documentElement(PvFuzz::bytes(data, size));
     const PvProductTypeDescription description(root.firstChildElement(QStringLiteral("product")));
+    // What a product file of up to 64 KB may cost once loaded, its document included.
+    PvFuzz::checkHeldMemory(before, 16, "the loaded product file");
     queryIdentity(description);
     queryPreview(description);
     querySurroundings(description);

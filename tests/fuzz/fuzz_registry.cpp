@@ -113,7 +113,11 @@ void queryType(const FuzzRegistry& registry, const PvProductType& type)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     PvFuzz::initialize();
-    const FuzzRegistry registry(writeFiles(PvFuzz::bytes(data, size)));
+    const QList<QDir> dirs = writeFiles(PvFuzz::bytes(data, size));
+    const qint64 before = PvFuzz::heapInUse();
+    const FuzzRegistry registry(dirs);
+    // The files together are no larger than one product file may be.
+    PvFuzz::checkHeldMemory(before, 16, "the loaded registry");
     PvProductTypeList types = registry.allProducts();
     (void)registry.allAvailableProducts(), (void)registry.firstValidProduct(types), (void)registry.voidDescription();
     (void)registry.findProducts({}, {});

@@ -1,5 +1,7 @@
 #include "PvProductClassification.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvXMLParser.h"
 
 #include <cmath>
@@ -35,6 +37,13 @@ PvProductClassification::PvProductClassification(const QDomElement& product)
     // repairs them. A correct value outside ASCII does not survive this, and never did.
     m_group = PvProductClassificationGroup(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1()));
     calculateSize();
+    for (const char* unit : { "cm", "inch" }) {
+        const QString name = classification.attribute(QLatin1String(unit));
+        if (!name.isEmpty() && !sizeFromName(name))
+            PvProductDiagnostics::report(PvDiagnostic::Error, classification,
+                                         QStringLiteral("attribute %1: %2 is not a size written WxH; the product has no size").arg(PvDiagnostics::quoted(QLatin1String(unit)), PvDiagnostics::quoted(name)),
+                                         QLatin1String(unit));
+    }
 }
 
 PvProductClassification::PvProductClassification(const PvProductClassification& other) = default;

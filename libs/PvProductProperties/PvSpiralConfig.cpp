@@ -1,5 +1,7 @@
 #include "PvSpiralConfig.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvCSSSkinManager.h"
 #include "PvDirectoryConfig.h"
 #include "PvXMLParser.h"
@@ -53,6 +55,8 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     , m_variant(PvXMLParser::attribute(element, QStringLiteral("variant"), QStringLiteral("spiralbinding-one-loop-vertical.png")))
 {
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
+    if (element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
+        PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
 }
 
 PvSpiralConfig::PvSpiralConfig(const PvSpiralConfig& other) = default;

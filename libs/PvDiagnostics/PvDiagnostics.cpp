@@ -1,0 +1,159 @@
+#include "PvDiagnostics.h"
+
+#include "PvDiagnosticCollector.h"
+
+#include <QDomNode>
+#include <QList>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <limits>
+
+Q_LOGGING_CATEGORY(pvXmlLog, "pv.xml", QtWarningMsg)
+
+namespace {
+int editDistance(const QString& a, const QString& b)
+{
+    QList<int> row(b.size() + 1);
+    for (int j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int above = row[j];
+            row[j] = std::min({ row[j] + 1, row[j - 1] + 1, diagonal + (a.at(i - 1) == b.at(j - 1) ? 0 : 1) });
+            diagonal = above;
+        }
+    }
+    return row[b.size()];
+}
+
+struct OpenElement {
+    QString name;
+    qint64 line;
+};
+
+// Line and 1-based column of a character offset into \a text.
+QPair<int, int> placeOf(const QString& text, qsizetype offset)
+{
+    offset = std::clamp<qsizetype>(offset, 0, text.size());
+    const qsizetype lineStart = text.lastIndexOf(QLatin1Char('\n'), offset - 1) + 1;
+    return { int(text.left(offset).count(QLatin1Char('\n'))) + 1, int(offset - lineStart) + 1 };
+}
+}
+
+bool PvDiagnostics::isListening(const QLoggingCategory& category)
+{
+    return PvDiagnosticCollector::current() || category.isInfoEnabled();
+}
+
+void PvDiagnostics::report(const QLoggingCategory& category, PvDiagnostic::Severity severity, const QDomNode& node, const QString& message,
+                           const QString& attribute, const QString& suggestion)
+{
+    PvDiagnostic diagnostic;
+    diagnostic.line = std::max(node.lineNumber(), 0);
+    diagnostic.column = std::max(node.columnNumber(), 0);
+    diagnostic.severity = severity;
+    diagnostic.message = message;
+    diagnostic.attribute = attribute;
+    diagnostic.suggestion = suggestion;
+    report(category, std::move(diagnostic));
+}
+
+void PvDiagnostics::reportFile(const QLoggingCategory& category, PvDiagnostic::Severity severity, const QString& message)
+{
+    PvDiagnostic diagnostic;
+    diagnostic.severity = severity;
+    diagnostic.message = message;
+    report(category, std::move(diagnostic));
+}
+
+void PvDiagnostics::report(const QLoggingCategory& category, PvDiagnostic diagnostic)
+{
+    // A place in the file is 1-based; the whole file is reported at its start.
+    if (diagnostic.line < 1)
+        diagnostic.line = diagnostic.column = 1;
+    diagnostic.column = std::max(diagnostic.column, 1);
+    diagnostic.category = QString::fromLatin1(category.categoryName());
+    if (PvDiagnosticCollector* collector = PvDiagnosticCollector::current()) {
+        collector->add(std::move(diagnostic));
+        return;
+    }
+    if (category.isInfoEnabled())
+        QMessageLogger(nullptr, 0, nullptr, category.categoryName()).info().noquote() << diagnostic.toString();
+}
+
+QString PvDiagnostics::closest(const QString& text, const QStringList& known)
+{
+    const QString lower = text.trimmed().toLower();
+    if (lower.isEmpty())
+        return {};
+    QString best;
+    int bestDistance = std::numeric_limits<int>::max();
+    for (const QString& name : known) {
+        const int distance = editDistance(lower, name.toLower());
+        if (distance < bestDistance) {
+            best = name;
+            bestDistance = distance;
+        }
+    }
+    // Distance 0 is a name that differs in case only, a typo like any other.
+    if (best.isEmpty() || best == text.trimmed())
+        return {};
+    return bestDistance <= std::max<int>(1, int(best.size()) / 3) ? best : QString();
+}
+
+PvDiagnostic PvDiagnostics::xmlError(const QByteArray& data)
+{
+    PvDiagnostic diagnostic;
+    diagnostic.severity = PvDiagnostic::Error;
+    if (data.trimmed().isEmpty()) {
+        diagnostic.message = QStringLiteral("the file is empty");
+        return diagnostic;
+    }
+    QXmlStreamReader reader(data);
+    QList<OpenElement> open;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement)
+            open.append({ reader.name().toString(), reader.lineNumber() });
+        else if (token == QXmlStreamReader::EndElement && !open.isEmpty())
+            open.removeLast();
+    }
+    if (!reader.hasError()) {
+        diagnostic.message = QStringLiteral("no document element");
+        return diagnostic;
+    }
+    diagnostic.line = int(reader.lineNumber());
+    diagnostic.column = int(reader.columnNumber()) + 1;
+    diagnostic.message = reader.errorString();
+    const QString text = QString::fromUtf8(data);
+    if (reader.error() == QXmlStreamReader::PrematureEndOfDocumentError && !open.isEmpty()) {
+        diagnostic.message = QStringLiteral("element %1 opened on line %2 is never closed").arg(quoted(open.constLast().name)).arg(open.constLast().line);
+        return diagnostic;
+    }
+    // A mismatched end tag: the reader stops just behind it.
+    const qsizetype offset = std::min<qsizetype>(qsizetype(reader.characterOffset()), text.size());
+    const qsizetype endTag = text.lastIndexOf(QLatin1String("</"), offset - 1);
+    if (!open.isEmpty() && endTag >= 0 && text.indexOf(QLatin1Char('>'), endTag) + 1 >= offset - 1) {
+        const qsizetype nameEnd = text.indexOf(QLatin1Char('>'), endTag);
+        const QString closer = text.mid(endTag + 2, nameEnd - endTag - 2).trimmed();
+        if (closer != open.constLast().name) {
+            const QPair<int, int> place = placeOf(text, endTag);
+            diagnostic.line = place.first;
+            diagnostic.column = place.second;
+            diagnostic.message = QStringLiteral("element %1 opened on line %2 is closed by %3 on line %4")
+                                     .arg(quoted(open.constLast().name))
+                                     .arg(open.constLast().line)
+                                     .arg(quoted(closer))
+                                     .arg(place.first);
+        }
+    }
+    return diagnostic;
+}
+
+QString PvDiagnostics::quoted(const QString& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}

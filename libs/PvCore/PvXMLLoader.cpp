@@ -19,10 +19,13 @@ QDomElement PvXMLLoader::loadDocumentElement(const QString& filePath)
         return {};
     }
     QDomDocument document;
-    if (!document.setContent(&file)) {
+    QString error;
+    int line = 0;
+    int column = 0;
+    if (!document.setContent(&file, &error, &line, &column)) {
         // Parsed again only on failure and only when someone listens, to say where and why.
         if (PvDiagnostics::isListening(pvXmlLog()) && file.seek(0)) {
-            PvDiagnostic diagnostic = PvDiagnostics::xmlError(file.readAll());
+            PvDiagnostic diagnostic = PvDiagnostics::xmlError(file.readAll(), line, column, error);
             diagnostic.message += QStringLiteral("; the file is skipped");
             PvDiagnostics::report(pvXmlLog(), diagnostic);
         }

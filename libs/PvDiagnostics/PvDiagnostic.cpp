@@ -17,8 +17,8 @@ QString PvDiagnostic::toString() const
 
 bool operator==(const PvDiagnostic& a, const PvDiagnostic& b)
 {
-    return std::tie(a.file, a.line, a.column, a.severity, a.message, a.attribute, a.suggestion, a.category)
-        == std::tie(b.file, b.line, b.column, b.severity, b.message, b.attribute, b.suggestion, b.category);
+    return std::tie(a.file, a.line, a.column, a.severity, a.message, a.attribute, a.found, a.suggestion, a.place, a.category)
+        == std::tie(b.file, b.line, b.column, b.severity, b.message, b.attribute, b.found, b.suggestion, b.place, b.category);
 }
 
 QDebug operator<<(QDebug debug, const PvDiagnostic& diagnostic)

@@ -49,15 +49,17 @@ bool PvDiagnostics::isListening(const QLoggingCategory& category)
 }
 
 void PvDiagnostics::report(const QLoggingCategory& category, PvDiagnostic::Severity severity, const QDomNode& node, const QString& message,
-                           const QString& attribute, const QString& suggestion)
+                           const QString& attribute, const QString& suggestion, const QString& found)
 {
     PvDiagnostic diagnostic;
     diagnostic.line = std::max(node.lineNumber(), 0);
     diagnostic.column = std::max(node.columnNumber(), 0);
+    diagnostic.place = PvDiagnostic::StartTagEnd;
     diagnostic.severity = severity;
     diagnostic.message = message;
     diagnostic.attribute = attribute;
     diagnostic.suggestion = suggestion;
+    diagnostic.found = suggestion.isEmpty() ? QString() : found;
     report(category, std::move(diagnostic));
 }
 
@@ -72,8 +74,10 @@ void PvDiagnostics::reportFile(const QLoggingCategory& category, PvDiagnostic::S
 void PvDiagnostics::report(const QLoggingCategory& category, PvDiagnostic diagnostic)
 {
     // A place in the file is 1-based; the whole file is reported at its start.
-    if (diagnostic.line < 1)
+    if (diagnostic.line < 1) {
         diagnostic.line = diagnostic.column = 1;
+        diagnostic.place = PvDiagnostic::WholeFile;
+    }
     diagnostic.column = std::max(diagnostic.column, 1);
     diagnostic.category = QString::fromLatin1(category.categoryName());
     if (PvDiagnosticCollector* collector = PvDiagnosticCollector::current()) {
@@ -106,6 +110,11 @@ QString PvDiagnostics::closest(const QString& text, const QStringList& known)
 
 PvDiagnostic PvDiagnostics::xmlError(const QByteArray& data)
 {
+    return xmlError(data, 0, 0, QString());
+}
+
+PvDiagnostic PvDiagnostics::xmlError(const QByteArray& data, int line, int column, const QString& message)
+{
     PvDiagnostic diagnostic;
     diagnostic.severity = PvDiagnostic::Error;
     if (data.trimmed().isEmpty()) {
@@ -125,9 +134,13 @@ PvDiagnostic PvDiagnostics::xmlError(const QByteArray& data)
         diagnostic.message = QStringLiteral("no document element");
         return diagnostic;
     }
-    diagnostic.line = int(reader.lineNumber());
-    diagnostic.column = int(reader.columnNumber()) + 1;
-    diagnostic.message = reader.errorString();
+    // The stream reader stands behind the offending character; the DOM parser's place is exact.
+    diagnostic.line = line > 0 ? line : int(reader.lineNumber());
+    diagnostic.column = line > 0 ? std::max(column, 1) : int(reader.columnNumber());
+    QString words = message.isEmpty() ? reader.errorString() : message;
+    while (words.endsWith(QLatin1Char('.')))
+        words.chop(1);
+    diagnostic.message = QStringLiteral("not well-formed XML: ") + words;
     const QString text = QString::fromUtf8(data);
     if (reader.error() == QXmlStreamReader::PrematureEndOfDocumentError && !open.isEmpty()) {
         diagnostic.message = QStringLiteral("element %1 opened on line %2 is never closed").arg(quoted(open.constLast().name)).arg(open.constLast().line);

@@ -24,7 +24,8 @@ namespace PvDiagnostics {
 
 //! Reports at \a node's place; \a attribute names the attribute the report is about.
 PVDIAGNOSTICS_EXPORT void report(const QLoggingCategory& category, PvDiagnostic::Severity severity, const QDomNode& node,
-                                 const QString& message, const QString& attribute = QString(), const QString& suggestion = QString());
+                                 const QString& message, const QString& attribute = QString(), const QString& suggestion = QString(),
+                                 const QString& found = QString());
 //! Reports about the whole file being read.
 PVDIAGNOSTICS_EXPORT void reportFile(const QLoggingCategory& category, PvDiagnostic::Severity severity, const QString& message);
 //! Reports about the whole file or a place given by 1-based \a line and \a column.
@@ -41,6 +42,8 @@ PVDIAGNOSTICS_EXPORT void report(const QLoggingCategory& category, PvDiagnostic 
  * empty", or the tags and lines of a mismatched element, else the parser's own words.
  */
 [[nodiscard]] PVDIAGNOSTICS_EXPORT PvDiagnostic xmlError(const QByteArray& data);
+//! The same, with the place and words of the DOM parser where nothing more precise is known.
+[[nodiscard]] PVDIAGNOSTICS_EXPORT PvDiagnostic xmlError(const QByteArray& data, int line, int column, const QString& message);
 
 //! \a text in double quotes, as every message quotes names and values.
 [[nodiscard]] PVDIAGNOSTICS_EXPORT QString quoted(const QString& text);

@@ -6,10 +6,10 @@ Q_LOGGING_CATEGORY(pvCategoriesLog, "pv.productproperties.categories", QtWarning
 using PvDiagnostics::quoted;
 
 void PvProductDiagnostics::report(PvDiagnostic::Severity severity, const QDomElement& element, const QString& message,
-                                  const QString& attribute, const QString& suggestion)
+                                  const QString& attribute, const QString& suggestion, const QString& found)
 {
     if (PvDiagnostics::isListening(pvProductsLog()))
-        PvDiagnostics::report(pvProductsLog(), severity, element, message, attribute, suggestion);
+        PvDiagnostics::report(pvProductsLog(), severity, element, message, attribute, suggestion, found);
 }
 
 QString PvProductDiagnostics::subject(const QDomElement& element, const QString& attribute)
@@ -38,7 +38,7 @@ void PvProductDiagnostics::checkNames(const QDomElement& element, const QString&
         const QString suggestion = PvDiagnostics::closest(name, known);
         report(PvDiagnostic::Error, element,
                QStringLiteral("%1: unknown %2 %3 counts as nothing").arg(subject(element, attribute), QLatin1String(noun), quoted(name)), attribute,
-               suggestion);
+               suggestion, name);
     }
 }
 

@@ -19,7 +19,8 @@ PVPRODUCTPROPERTIES_EXPORT Q_DECLARE_LOGGING_CATEGORY(pvCategoriesLog)
 namespace PvProductDiagnostics {
 //! Reports a finding about \a element, or about its \a attribute when given.
 PVPRODUCTPROPERTIES_EXPORT void report(PvDiagnostic::Severity severity, const QDomElement& element, const QString& message,
-                                       const QString& attribute = QString(), const QString& suggestion = QString());
+                                       const QString& attribute = QString(), const QString& suggestion = QString(),
+                                       const QString& found = QString());
 
 //! "attribute "x"" or "the text of "y"", the subject of a message about a value.
 [[nodiscard]] PVPRODUCTPROPERTIES_EXPORT QString subject(const QDomElement& element, const QString& attribute);

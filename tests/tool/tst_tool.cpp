@@ -63,8 +63,8 @@ void TestTool::commands_data()
     QTest::newRow("unknown type") << data + args("show no-such-product") << 1 << QStringList();
     QTest::newRow("find by class") << data + args("find --class poster") << 0
         << QStringList { QStringLiteral("test-poster"), QStringLiteral("test-poster-large") };
-    QTest::newRow("find without filter explains") << data + args("find") << 0
-        << QStringList { QStringLiteral("No filter given: the library answers an empty set, which means every product.") };
+    QTest::newRow("find without filter lists every product") << data + args("find") << 0
+        << QStringList { QStringLiteral("test-book"), QStringLiteral("test-calendar"), QStringLiteral("test-poster"), QStringLiteral("test-poster-large") };
     QTest::newRow("groups by size") << data + args("groups") << 0
         << QStringList { QStringLiteral("Poster (Poster)"), QStringLiteral("  40x50  16x20  test-poster"), QStringLiteral("  60x80  24x32  test-poster-large") };
     QTest::newRow("closest") << data + args("closest test-book Poster") << 0 << QStringList { QStringLiteral("test-poster") };
@@ -118,17 +118,17 @@ void TestTool::lintFindings_data()
     QTest::newRow("invalid and why") << "products/c-typos.xml:3:3: error: product \"typos\" is not valid";
     QTest::newRow("bool") << "products/c-typos.xml:3:62: error: attribute \"horizontalPages\": \"maybe\" is not true or false";
     QTest::newRow("int") << "products/c-typos.xml:3:86: error: attribute \"foldsafetymargin\": \"wide\" is not a whole number";
-    QTest::newRow("unknown attribute") << "products/c-typos.xml:3:110: warning: unknown attribute \"colour\"";
+    QTest::newRow("unknown attribute") << "products/c-typos.xml:3:110: error: unknown attribute \"colour\"";
     QTest::newRow("page name") << "products/c-typos.xml:4:5: error: the text of \"pages\": unknown page type \"spinee\"";
     QTest::newRow("empty page") << "products/c-typos.xml:4:5: error: the text of \"pages\": an empty entry";
     QTest::newRow("number list") << "products/c-typos.xml:5:5: error: the text of \"productionnumbering\": \"x\" is not a whole number";
     QTest::newRow("huge range") << "products/c-typos.xml:7:24: error: attribute \"from\": \"1-10000000\" spans more than 100000 pages";
     QTest::newRow("missing to") << "products/c-typos.xml:8:7: error: \"contentredirect\" has no attribute \"to\"";
-    QTest::newRow("unknown element") << "products/c-typos.xml:10:5: warning: unknown element \"editorAbilites\"";
+    QTest::newRow("unknown element") << "products/c-typos.xml:10:5: error: unknown element \"editorAbilites\"";
     QTest::newRow("naming style") << "products/c-typos.xml:12:7: error: the text of \"pageNamingStyle\": unknown page naming style \"bok\"";
     QTest::newRow("jig tag") << "products/c-typos.xml:13:13: error: unknown jig type \"backdrop\"";
     QTest::newRow("mesh") << "products/c-typos.xml:15:16: error: a mesh needs at least one \"textureTarget\"";
-    QTest::newRow("duplicate") << "products/d-dup.xml:1:11: warning: product type \"dup\" is defined again in";
+    QTest::newRow("duplicate") << "products/e-dup.xml:1:1: error: product type \"dup\" is defined again in this directory";
     QTest::newRow("replacedBy") << "legacy/old.xml:1:61: error: \"replacedBy\" names no known product: \"nowhere\"";
 }
 

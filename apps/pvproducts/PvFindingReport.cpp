@@ -74,7 +74,7 @@ QJsonObject PvFindingReport::fix(const PvDiagnostic& f)
 {
     // The misspelt text is looked up from the finding's place onward on its line.
     QFile file(f.file);
-    if (f.found.isEmpty() || !file.open(QIODevice::ReadOnly))
+    if (f.found.isEmpty() || f.suggestion.isEmpty() || !file.open(QIODevice::ReadOnly))
         return {};
     const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
     for (int l = f.line - 1; l >= 0 && l < lines.size() && l < f.line + 4; ++l) {

@@ -260,7 +260,7 @@ void PvProductLinter::lintProduct(const QDomElement& product, Kind kind)
         place.severity = PvDiagnostic::Error;
         place.message = QStringLiteral("\"replacedBy\" names no known product: %1").arg(quoted(replacement));
         place.suggestion = PvDiagnostics::closest(replacement, QStringList(m_knownProducts.cbegin(), m_knownProducts.cend()));
-        place.found = replacement;
+        place.found = place.suggestion.isEmpty() ? QString() : replacement;
         m_references.append({ place, replacement });
     }
     const QDomElement tilt = product.firstChildElement(QStringLiteral("editorAbilities")).firstChildElement(QStringLiteral("pageTilt"));

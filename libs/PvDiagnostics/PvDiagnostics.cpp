@@ -12,21 +12,25 @@
 Q_LOGGING_CATEGORY(pvXmlLog, "pv.xml", QtWarningMsg)
 
 namespace {
+// Optimal string alignment: a swap of two neighbours, the commonest typo, counts as one edit.
 int editDistance(const QString& a, const QString& b)
 {
-    QList<int> row(b.size() + 1);
-    for (int j = 0; j <= b.size(); ++j)
-        row[j] = j;
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int above = row[j];
-            row[j] = std::min({ row[j] + 1, row[j - 1] + 1, diagonal + (a.at(i - 1) == b.at(j - 1) ? 0 : 1) });
-            diagonal = above;
+    const qsizetype width = b.size() + 1;
+    QList<int> d((a.size() + 1) * width);
+    auto at = [&](qsizetype i, qsizetype j) -> int& { return d[i * width + j]; };
+    for (qsizetype i = 0; i <= a.size(); ++i)
+        at(i, 0) = int(i);
+    for (qsizetype j = 0; j <= b.size(); ++j)
+        at(0, j) = int(j);
+    for (qsizetype i = 1; i <= a.size(); ++i) {
+        for (qsizetype j = 1; j <= b.size(); ++j) {
+            const int cost = a.at(i - 1) == b.at(j - 1) ? 0 : 1;
+            at(i, j) = std::min({ at(i - 1, j) + 1, at(i, j - 1) + 1, at(i - 1, j - 1) + cost });
+            if (i > 1 && j > 1 && a.at(i - 1) == b.at(j - 2) && a.at(i - 2) == b.at(j - 1))
+                at(i, j) = std::min(at(i, j), at(i - 2, j - 2) + 1);
         }
     }
-    return row[b.size()];
+    return at(a.size(), b.size());
 }
 
 struct OpenElement {
@@ -105,7 +109,8 @@ QString PvDiagnostics::closest(const QString& text, const QStringList& known)
     // Distance 0 is a name that differs in case only, a typo like any other.
     if (best.isEmpty() || best == text.trimmed())
         return {};
-    return bestDistance <= std::max<int>(1, int(best.size()) / 3) ? best : QString();
+    // A typo is an edit or two; beyond that a long name is merely similar, not meant.
+    return bestDistance <= std::clamp(int(best.size()) / 4, 1, 3) ? best : QString();
 }
 
 PvDiagnostic PvDiagnostics::xmlError(const QByteArray& data)

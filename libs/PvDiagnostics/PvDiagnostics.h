@@ -33,7 +33,8 @@ PVDIAGNOSTICS_EXPORT void report(const QLoggingCategory& category, PvDiagnostic 
 
 /*!
  * The name of \a known closest to \a text, ignoring case, when it is near enough to be a
- * typo of it (an edit distance of at most a third of its length, and at least one); else empty.
+ * typo of it (at most one edit per four characters, at least one and at most three; a swap of
+ * neighbours is one edit); else empty.
  */
 [[nodiscard]] PVDIAGNOSTICS_EXPORT QString closest(const QString& text, const QStringList& known);
 

@@ -37,6 +37,11 @@ PvProductClassification::PvProductClassification(const QDomElement& product)
     // repairs them. A correct value outside ASCII does not survive this, and never did.
     m_group = PvProductClassificationGroup(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1()));
     calculateSize();
+    const QString group = classification.attribute(QStringLiteral("group"));
+    if (group != m_group.value())
+        PvProductDiagnostics::report(PvDiagnostic::Error, classification,
+                                     QStringLiteral("attribute \"group\": %1 is not plain ASCII and is read as %2").arg(PvDiagnostics::quoted(group), PvDiagnostics::quoted(m_group.value())),
+                                     QStringLiteral("group"));
     for (const char* unit : { "cm", "inch" }) {
         const QString name = classification.attribute(QLatin1String(unit));
         if (!name.isEmpty() && !sizeFromName(name))

@@ -1,5 +1,7 @@
 #include "PvJsonOutput.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -62,6 +64,15 @@ QJsonArray PvJsonOutput::intArray(const QList<int>& values)
 QString PvJsonOutput::yesNo(bool value)
 {
     return value ? QStringLiteral("yes") : QStringLiteral("no");
+}
+
+QString PvJsonOutput::displayPath(const QString& path)
+{
+    if (path.isEmpty())
+        return path;
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    const QString relative = QDir::current().relativeFilePath(absolute);
+    return relative.startsWith(QLatin1String("..")) ? absolute : relative;
 }
 
 QStringList PvJsonOutput::sortedNames(const PvProductTypeList& types)

@@ -19,6 +19,8 @@ void printObject(QTextStream& out, const QJsonObject& object, const QStringList&
 QJsonArray intArray(const QList<int>& values);
 QString yesNo(bool value);
 QStringList sortedNames(const PvProductTypeList& types);
+//! A path as the user would type it: relative when below the working directory.
+QString displayPath(const QString& path);
 
 //! A value's own name where the table has one (such as "panorama_page"), else its bits.
 template <typename Wrapper>

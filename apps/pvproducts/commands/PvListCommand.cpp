@@ -27,7 +27,9 @@ int list(PvToolContext& context)
                              { QStringLiteral("valid"), d->isValid() },
                              { QStringLiteral("abstractPages"), int(d->countAbstractPages()) } };
         if (verbose) {
-            const QStringList files = sources.files(name);
+            QStringList files = sources.files(name);
+            for (QString& file : files)
+                file = PvJsonOutput::displayPath(file);
             row << files.value(0, QStringLiteral("-")) << (files.size() > 1 ? files.mid(1).join(QStringLiteral(", ")) : QStringLiteral("-"));
             object.insert(QStringLiteral("file"), files.value(0));
             object.insert(QStringLiteral("replaces"), QJsonArray::fromStringList(files.mid(1)));

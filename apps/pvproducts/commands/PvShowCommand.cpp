@@ -19,7 +19,7 @@ QJsonArray relative(const QStringList& files)
 {
     QJsonArray array;
     for (const QString& file : files)
-        array.append(QDir::current().relativeFilePath(file));
+        array.append(PvJsonOutput::displayPath(file));
     return array;
 }
 

@@ -141,13 +141,16 @@ PvDiagnostic PvDiagnostics::xmlError(const QByteArray& data, int line, int colum
     }
     // The stream reader stands behind the offending character; the DOM parser's place is exact.
     diagnostic.line = line > 0 ? line : int(reader.lineNumber());
-    diagnostic.column = line > 0 ? std::max(column, 1) : int(reader.columnNumber());
+    diagnostic.column = std::max(line > 0 ? column : int(reader.columnNumber()), 1);
     QString words = message.isEmpty() ? reader.errorString() : message;
     while (words.endsWith(QLatin1Char('.')))
         words.chop(1);
     diagnostic.message = QStringLiteral("not well-formed XML: ") + words;
     const QString text = QString::fromUtf8(data);
     if (reader.error() == QXmlStreamReader::PrematureEndOfDocumentError && !open.isEmpty()) {
+        // At the end of the text the reader stands before the next column, not behind a character.
+        diagnostic.line = int(reader.lineNumber());
+        diagnostic.column = int(reader.columnNumber()) + 1;
         diagnostic.message = QStringLiteral("element %1 opened on line %2 is never closed").arg(quoted(open.constLast().name)).arg(open.constLast().line);
         return diagnostic;
     }

@@ -27,7 +27,7 @@ void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
 void PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
     const PvPageTypeList pageTypes(PvXMLParser::attribute(entry, QStringLiteral("pageType")));
-    if (!entry.hasAttribute(QStringLiteral("pageType")))
+    if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
     PvProductDiagnostics::checkEnum<PvPageAlignment>(entry, QStringLiteral("alignment"), "alignment");

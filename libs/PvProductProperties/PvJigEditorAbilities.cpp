@@ -26,7 +26,7 @@ void readCategories(const QDomElement& element, QHash<PvPageTypeEnum, QStringLis
     // Blanks around names are kept: they are part of the category names as written.
     const QStringList names = element.text().split(QLatin1Char(','), Qt::SkipEmptyParts);
     for (const QString& name : names) {
-        if (name != name.trimmed())
+        if (PvProductDiagnostics::listening() && name != name.trimmed())
             PvProductDiagnostics::report(PvDiagnostic::Error, element,
                                          QStringLiteral("the text of \"categories\": %1 has blanks around it, so it names no category").arg(PvDiagnostics::quoted(name)));
     }

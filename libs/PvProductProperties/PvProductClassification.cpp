@@ -18,6 +18,24 @@ std::optional<QSize> sizeFromName(const QString& name)
     return QSize(parts.constFirst().trimmed().toInt(nullptr, 10), parts.constLast().trimmed().toInt(nullptr, 10));
 }
 
+// Sizes that do not read and groups that do not survive the Latin-1 repair.
+void reportMistakes(const QDomElement& classification)
+{
+    const QString group = classification.attribute(QStringLiteral("group"));
+    const QString repaired = QString::fromUtf8(group.toLatin1());
+    if (group != repaired)
+        PvProductDiagnostics::report(PvDiagnostic::Error, classification,
+                                     QStringLiteral("attribute \"group\": %1 is not plain ASCII and is read as %2").arg(PvDiagnostics::quoted(group), PvDiagnostics::quoted(repaired)),
+                                     QStringLiteral("group"));
+    for (const char* unit : { "cm", "inch" }) {
+        const QString name = classification.attribute(QLatin1String(unit));
+        if (!name.isEmpty() && !sizeFromName(name))
+            PvProductDiagnostics::report(PvDiagnostic::Error, classification,
+                                         QStringLiteral("attribute %1: %2 is not a size written WxH; the product has no size").arg(PvDiagnostics::quoted(QLatin1String(unit)), PvDiagnostics::quoted(name)),
+                                         QLatin1String(unit));
+    }
+}
+
 bool isInch(const PvDistanceUnit& unit)
 {
     return unit.value() == PvInch;
@@ -37,18 +55,8 @@ PvProductClassification::PvProductClassification(const QDomElement& product)
     // repairs them. A correct value outside ASCII does not survive this, and never did.
     m_group = PvProductClassificationGroup(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1()));
     calculateSize();
-    const QString group = classification.attribute(QStringLiteral("group"));
-    if (group != m_group.value())
-        PvProductDiagnostics::report(PvDiagnostic::Error, classification,
-                                     QStringLiteral("attribute \"group\": %1 is not plain ASCII and is read as %2").arg(PvDiagnostics::quoted(group), PvDiagnostics::quoted(m_group.value())),
-                                     QStringLiteral("group"));
-    for (const char* unit : { "cm", "inch" }) {
-        const QString name = classification.attribute(QLatin1String(unit));
-        if (!name.isEmpty() && !sizeFromName(name))
-            PvProductDiagnostics::report(PvDiagnostic::Error, classification,
-                                         QStringLiteral("attribute %1: %2 is not a size written WxH; the product has no size").arg(PvDiagnostics::quoted(QLatin1String(unit)), PvDiagnostics::quoted(name)),
-                                         QLatin1String(unit));
-    }
+    if (PvProductDiagnostics::listening())
+        reportMistakes(classification);
 }
 
 PvProductClassification::PvProductClassification(const PvProductClassification& other) = default;

@@ -17,6 +17,12 @@ PVPRODUCTPROPERTIES_EXPORT Q_DECLARE_LOGGING_CATEGORY(pvCategoriesLog)
  * Every function does nothing unless someone listens (PvDiagnostics::isListening).
  */
 namespace PvProductDiagnostics {
+//! Whether the product readers have anyone to report to; checks that cost time ask first.
+[[nodiscard]] inline bool listening()
+{
+    return PvDiagnostics::isListening(pvProductsLog());
+}
+
 //! Reports a finding about \a element, or about its \a attribute when given.
 PVPRODUCTPROPERTIES_EXPORT void report(PvDiagnostic::Severity severity, const QDomElement& element, const QString& message,
                                        const QString& attribute = QString(), const QString& suggestion = QString(),

@@ -18,9 +18,9 @@ PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item, 
     : m_content(item.firstChildElement(QStringLiteral("pdf")))
 {
     readTargetPages(item.firstChildElement(QStringLiteral("target_pages")), pageBudget);
-    if (item.firstChildElement(QStringLiteral("pdf")).isNull() && !item.isNull())
+    if (PvProductDiagnostics::listening() && item.firstChildElement(QStringLiteral("pdf")).isNull() && !item.isNull())
         PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"pdf\" adds empty pages"));
-    if (item.firstChildElement(QStringLiteral("target_pages")).isNull() && !item.isNull())
+    if (PvProductDiagnostics::listening() && item.firstChildElement(QStringLiteral("target_pages")).isNull() && !item.isNull())
         PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"target_pages\" goes on no page"));
 }
 

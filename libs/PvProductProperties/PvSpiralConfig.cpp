@@ -55,7 +55,7 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     , m_variant(PvXMLParser::attribute(element, QStringLiteral("variant"), QStringLiteral("spiralbinding-one-loop-vertical.png")))
 {
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
-    if (element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
+    if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
         PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
 }
 

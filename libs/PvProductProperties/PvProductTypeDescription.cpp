@@ -117,13 +117,6 @@ void PvProductTypeDescription::initPages(const QDomElement& product)
     // pageTypes(n) warn about the product.
     m_pageTypes = PvPageTypeList(child(product, "pages").text());
     PvProductDiagnostics::checkEnum<PvPageType>(child(product, "pages"), QString(), "page type", true);
-    if (PvDiagnostics::isListening(pvProductsLog())) {
-        for (const char* single : { "pages", "productionnumbering", "pageswithcontent", "contentredirects", "rotationredirects", "defaults",
-                                    "editorAbilities", "tilt", "classification", "preview3D", "extra_production_pages", "pricelist", "barcodes" })
-            PvProductDiagnostics::checkSingle(product, QLatin1String(single));
-        if (child(product, "pages").isNull() && !product.isNull())
-            PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("\"product\" has no \"pages\": its page list is one illegal page"));
-    }
 
     const auto isSpine = [](const PvPageType& type) { return type == PvPageTypeSpine; };
     const auto isJacket = [](const PvPageType& type) { return type == PvPageTypeJacket; };

@@ -67,6 +67,12 @@ void PvProductTypeDescriptionReader::reportFile(const QFileInfo& fileInfo, const
         return;
     }
     PvProductDiagnostics::checkSingle(root, QStringLiteral("product"));
+    // The description reads only the first of each of these.
+    for (const char* single : { "pages", "productionnumbering", "pageswithcontent", "contentredirects", "rotationredirects", "defaults",
+                                "editorAbilities", "tilt", "classification", "preview3D", "extra_production_pages", "pricelist", "barcodes" })
+        PvProductDiagnostics::checkSingle(product, QLatin1String(single));
+    if (product.firstChildElement(QStringLiteral("pages")).isNull())
+        PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("\"product\" has no \"pages\": its page list is one illegal page"));
     if (description.isValid())
         return;
     const QString why = description.articleClass().isValid()

@@ -1,20 +1,31 @@
 #include "PvDiagnosticCollector.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace {
 thread_local PvDiagnosticCollector* currentCollector = nullptr;
+// Reading a thread-local of another library costs a call; this counter spares it while no
+// collector exists at all, which is how the application loads.
+std::atomic<int> collectorCount { 0 };
 }
 
 PvDiagnosticCollector::PvDiagnosticCollector()
     : m_previous(currentCollector)
 {
     currentCollector = this;
+    collectorCount.fetch_add(1, std::memory_order_relaxed);
 }
 
 PvDiagnosticCollector::~PvDiagnosticCollector()
 {
     currentCollector = m_previous;
+    collectorCount.fetch_sub(1, std::memory_order_relaxed);
+}
+
+bool PvDiagnosticCollector::anyExists()
+{
+    return collectorCount.load(std::memory_order_relaxed) > 0;
 }
 
 PvDiagnosticCollector* PvDiagnosticCollector::current()

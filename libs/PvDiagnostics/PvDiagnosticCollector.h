@@ -24,6 +24,8 @@ public:
 
     //! The collector of this thread, or null.
     [[nodiscard]] static PvDiagnosticCollector* current();
+    //! Whether any thread has a collector: cheaper to ask than current().
+    [[nodiscard]] static bool anyExists();
 
     //! The file being read; a diagnostic without a file of its own gets this one.
     [[nodiscard]] QString file() const { return m_file; }

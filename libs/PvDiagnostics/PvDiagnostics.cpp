@@ -49,7 +49,7 @@ QPair<int, int> placeOf(const QString& text, qsizetype offset)
 
 bool PvDiagnostics::isListening(const QLoggingCategory& category)
 {
-    return PvDiagnosticCollector::current() || category.isInfoEnabled();
+    return category.isInfoEnabled() || (PvDiagnosticCollector::anyExists() && PvDiagnosticCollector::current());
 }
 
 void PvDiagnostics::report(const QLoggingCategory& category, PvDiagnostic::Severity severity, const QDomNode& node, const QString& message,

@@ -9,7 +9,7 @@ const std::vector<PvElementRule>& rules()
 {
     static const std::vector<PvElementRule> table = {
         { "product",
-          { { "name", K::Text, true }, { "isVario", K::Bool }, { "isTwoSided", K::Bool }, { "class", K::ArticleClass },
+          { { "name", K::Text }, { "isVario", K::Bool }, { "isTwoSided", K::Bool }, { "class", K::ArticleClass },
             { "imageFXs", K::ImageFXs }, { "binding", K::CoverType }, { "horizontalPages", K::Bool },
             { "productAlignment", K::ProductAlignment }, { "hasLogoOnSpine", K::Bool }, { "foldsafetymargin", K::Int },
             { "replacedBy", K::ProductRef }, { "conversionStrategy", K::RewriterStrategy } } },
@@ -31,7 +31,8 @@ const std::vector<PvElementRule>& rules()
         { "product/rotationredirects", {} },
         { "product/rotationredirects/rotationredirect", { { "from", K::Int, true }, { "to", K::Int, true }, { "angleinvert", K::Int } } },
         { "product/contentredirects", {} },
-        { "product/contentredirects/contentredirect", { { "from", K::PageRange, true }, { "to", K::Int, true } } },
+        // The library itself says what is wrong with a redirect or with target pages.
+        { "product/contentredirects/contentredirect", { { "from", K::Text }, { "to", K::Int } } },
         { "product/defaults", {} },
         { "product/defaults/default",
           { { "pageType", K::PageTypes }, { "alignment", K::Alignments }, { "pageNr", K::Int }, { "scenePageCount", K::Int },
@@ -47,7 +48,7 @@ const std::vector<PvElementRule>& rules()
         { "product/pageNumberConfig/font", { { "fontSize", K::Int } } },
         { "product/extra_production_pages", {} },
         { "product/extra_production_pages/item", {} },
-        { "product/extra_production_pages/item/target_pages", {}, K::PageRanges },
+        { "product/extra_production_pages/item/target_pages", {}, K::Text },
         { "product/extra_production_pages/item/pdf", { { "filename", K::Text }, { "type", K::Text }, { "layer", K::Int } } },
         { "product/editorAbilities", { { "convertable", K::Bool } } },
         { "product/editorAbilities/assistant", { { "enabled", K::Bool } } },
@@ -91,4 +92,16 @@ const PvElementRule* PvProductFileVocabulary::rule(const QString& path)
         return hash;
     }();
     return byPath.value(path);
+}
+
+QStringList PvProductFileVocabulary::childNames(const QString& path)
+{
+    QStringList names;
+    const QString prefix = path + QLatin1Char('/');
+    for (const PvElementRule& rule : rules()) {
+        const QString candidate = QString::fromLatin1(rule.path);
+        if (candidate.startsWith(prefix) && !candidate.mid(prefix.size()).contains(QLatin1Char('/')))
+            names.append(candidate.mid(prefix.size()));
+    }
+    return names;
 }

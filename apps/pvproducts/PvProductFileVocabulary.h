@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -12,8 +13,6 @@ enum class PvValueKind {
     Int,
     Number,
     IntList,          // "1, 3, 7"
-    PageRanges,       // "1, 3-5, 9-7"
-    PageRange,        // "4" or "2-4"
     PageTypes,        // comma list of page type names, decoded as one value
     PageTypeList,     // the abstract page list: every piece is one page
     Alignments,
@@ -48,5 +47,7 @@ class PvProductFileVocabulary
 {
 public:
     static const PvElementRule* rule(const QString& path);
+    //! The names of the elements the library reads below \a path.
+    static QStringList childNames(const QString& path);
     static QString jigPlaceholder() { return QStringLiteral("*jig*"); }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PvDiagnostic.h"
 #include "PvProductFileVocabulary.h"
 #include "PvSourcePositions.h"
 
@@ -8,61 +9,70 @@
 #include <QFileInfo>
 #include <QHash>
 #include <QList>
+#include <QSet>
 #include <QString>
 
 #include <optional>
 
-/*! One thing wrong or suspicious in a product file. */
-struct PvLintFinding {
-    enum Severity { Warning, Error };
-    QString file;
-    int line = 0;
-    int column = 0;
-    Severity severity = Error;
-    QString message;
-};
-
 /*!
- * Checks product files for what the lenient loader silently turns into defaults: files that
- * do not load, unknown names and enumeration texts, numbers that do not parse, invalid
- * products, duplicates, and references to unknown products.
+ * Checks the files of a catalogue. What the library reports while it loads them comes first
+ * and unchanged (one truth for loader and checker); the linter adds only what the loader
+ * cannot know: names the library never reads, references to other files, and the colour and
+ * translation files. Positions are moved from where a DOM start tag ends to its start or to
+ * the attribute concerned.
  */
 class PvProductLinter
 {
 public:
-    //! \a productDirs in the order they are searched (first wins), then the legacy directory.
-    void lint(const QList<QDir>& productDirs, const QDir& legacyDir);
+    //! \a dataRoot gives the context: the products that "replacedBy" may name, the thumbnails.
+    explicit PvProductLinter(const QDir& dataRoot);
 
-    [[nodiscard]] QList<PvLintFinding> findings() const { return m_findings; }
+    //! Every file of the data root: product, update and legacy directories, colours, translations.
+    void lintCatalogue();
+    //! The files and directories given; answers false and reports nothing for a missing one.
+    void lintPaths(const QStringList& paths);
+
+    //! The findings, sorted by file, line and column.
+    [[nodiscard]] QList<PvDiagnostic> findings() const;
     [[nodiscard]] int fileCount() const { return m_fileCount; }
-    [[nodiscard]] int count(PvLintFinding::Severity severity) const;
+    [[nodiscard]] static int count(const QList<PvDiagnostic>& findings, PvDiagnostic::Severity severity);
 
 private:
-    // Where a product type is defined or named; the documents are gone when these are used.
-    struct Place {
-        QString file;
-        PvSourcePositions::Position position;
-        QString product;
-    };
-    using Definitions = QHash<QString, Place>;
+    enum class Kind { Products, Legacy };
 
-    //! Lints the files of one directory; answers the product types it defines (later file wins).
-    Definitions lintDirectory(const QDir& dir);
-    void lintFile(const QFileInfo& file, Definitions& definitions);
+    void lintProductDirectory(const QDir& dir, Kind kind);
+    void lintProductFile(const QFileInfo& file, Kind kind);
+    void lintColors(const QFileInfo& file);
+    void lintTranslations(const QFileInfo& file);
+    void lintPath(const QFileInfo& path);
+
+    //! Loads the file as the library does and keeps what it reports.
+    void addLibraryDiagnostics(QList<PvDiagnostic> diagnostics);
+    //! Opens \a file for the linter's own checks; null when the library already said why not.
+    QDomElement open(const QFileInfo& file);
+
     void lintElement(const QDomElement& element, const QString& path);
     void lintAttributes(const QDomElement& element, const PvElementRule& rule);
     void lintValue(const QDomElement& element, const QString& attribute, PvValueKind kind, const QString& text);
-    void lintPageRange(const QDomElement& element, const QString& attribute, const QString& part, bool strict);
-    void lintPreview(const QDomElement& preview);
-    void lintValidity(const QDomElement& product);
+    void lintProduct(const QDomElement& product, Kind kind);
+    void lintSpiralPictures(const QDomElement& spirals);
 
-    //! A finding about \a element of the current file, or about its \a attribute when given.
-    void report(const QDomElement& element, PvLintFinding::Severity severity, const QString& message, const QString& attribute = QString());
-    void report(const Place& place, PvLintFinding::Severity severity, const QString& message);
+    void report(const QDomElement& element, PvDiagnostic::Severity severity, const QString& message, const QString& attribute = QString(),
+                const QString& suggestion = QString(), const QString& found = QString());
+    void reportFile(PvDiagnostic::Severity severity, const QString& message);
+    [[nodiscard]] QString displayPath(const QString& path) const;
 
-    QList<PvLintFinding> m_findings;
-    QList<Place> m_references;
+    QDir m_dataRoot;
+    QSet<QString> m_knownProducts;
+    QStringList m_thumbnails;
+    QList<PvDiagnostic> m_findings;
+    struct Reference {
+        PvDiagnostic place;
+        QString product;
+    };
+    QList<Reference> m_references;
     int m_fileCount = 0;
     QString m_file;
+    QString m_text;
     std::optional<PvSourcePositions> m_positions;
 };

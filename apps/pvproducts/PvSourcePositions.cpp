@@ -22,11 +22,15 @@ PvSourcePositions::Position PvSourcePositions::at(qsizetype offset) const
 
 qsizetype PvSourcePositions::tagStart(const QDomElement& element, qsizetype* tagEnd) const
 {
+    return tagStart(element.lineNumber(), element.columnNumber(), tagEnd);
+}
+
+qsizetype PvSourcePositions::tagStart(int line, int column, qsizetype* tagEnd) const
+{
     // The DOM gives the line and the characters consumed on it after the start tag's ">".
-    const int line = element.lineNumber();
     if (line < 1 || line > m_lineStarts.size())
         return -1;
-    const qsizetype end = qMin(m_lineStarts.at(line - 1) + element.columnNumber(), m_text.size());
+    const qsizetype end = qMin(m_lineStarts.at(line - 1) + column, m_text.size());
     if (tagEnd)
         *tagEnd = end;
     // Attribute values hold no raw "<", so the last one before the end opens the tag.
@@ -41,10 +45,17 @@ PvSourcePositions::Position PvSourcePositions::element(const QDomElement& elemen
 
 PvSourcePositions::Position PvSourcePositions::attribute(const QDomElement& element, const QString& name) const
 {
+    return refine(element.lineNumber(), element.columnNumber(), name);
+}
+
+PvSourcePositions::Position PvSourcePositions::refine(int line, int column, const QString& name) const
+{
     qsizetype end = 0;
-    const qsizetype start = tagStart(element, &end);
+    const qsizetype start = tagStart(line, column, &end);
     if (start < 0)
-        return this->element(element);
+        return { line, qMax(column, 1) };
+    if (name.isEmpty())
+        return at(start);
     const QRegularExpression pattern(QStringLiteral("\\s(%1)\\s*=").arg(QRegularExpression::escape(name)));
     const QRegularExpressionMatch match = pattern.match(m_text.mid(start, end - start));
     return at(match.hasMatch() ? start + match.capturedStart(1) : start);

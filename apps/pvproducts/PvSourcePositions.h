@@ -22,7 +22,11 @@ public:
     //! The position of the attribute's name in the start tag, else that of the element.
     [[nodiscard]] Position attribute(const QDomElement& element, const QString& name) const;
 
+    //! Moves a diagnostic placed where a start tag ends to the tag's start or its attribute.
+    [[nodiscard]] Position refine(int line, int column, const QString& attribute) const;
+
 private:
+    [[nodiscard]] qsizetype tagStart(int line, int column, qsizetype* tagEnd) const;
     [[nodiscard]] Position at(qsizetype offset) const;
     //! Where the start tag of \a element begins; -1 when the DOM knows no position.
     [[nodiscard]] qsizetype tagStart(const QDomElement& element, qsizetype* tagEnd = nullptr) const;

@@ -1,5 +1,7 @@
 #include "PvCalendarHoleConfig.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvXMLParser.h"
 
 #include <tuple>
@@ -10,6 +12,8 @@ PvCalendarHoleConfig::PvCalendarHoleConfig(const QDomElement& element)
     : m_diameter(PvXMLParser::intAttribute(element, QStringLiteral("diameter"), 0))
     , m_distanceY(PvXMLParser::intAttribute(element, QStringLiteral("distanceY"), 0))
 {
+    if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("diameter")) != element.hasAttribute(QStringLiteral("distanceY")))
+        PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hole needs both \"diameter\" and \"distanceY\"; without either there is no hole"));
 }
 
 PvCalendarHoleConfig::PvCalendarHoleConfig(const PvCalendarHoleConfig& other) = default;

@@ -1,5 +1,6 @@
 #include "PvContentDropRedirectList.h"
 
+#include "PvProductDiagnostics.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
@@ -9,6 +10,28 @@ namespace {
 // cost memory per page, but files rely on the warning.
 constexpr qint64 maximumRangeWidth = 100000;
 constexpr int noRedirect = -1;
+
+// Says which of the checks before the bare "parse error" failed.
+void reportSkipped(const QDomElement& contentredirect, bool numbers, int end, int to)
+{
+    if (!PvDiagnostics::isListening(pvProductsLog()))
+        return;
+    const QString from = PvDiagnostics::quoted(contentredirect.attribute(QStringLiteral("from")));
+    QString why;
+    QString attribute = QStringLiteral("from");
+    if (!numbers)
+        why = QStringLiteral("attribute \"from\": %1 is not a page or a range a-b").arg(from);
+    else if (end < 0)
+        why = QStringLiteral("attribute \"from\": %1 ends below page 0").arg(from);
+    else if (to < 0) {
+        attribute = QStringLiteral("to");
+        why = contentredirect.hasAttribute(attribute)
+            ? QStringLiteral("attribute \"to\": %1 is not a page number of 0 or more").arg(PvDiagnostics::quoted(contentredirect.attribute(attribute)))
+            : QStringLiteral("\"contentredirect\" has no attribute \"to\"");
+    } else
+        why = QStringLiteral("attribute \"from\": %1 spans more than %2 pages").arg(from).arg(maximumRangeWidth);
+    PvProductDiagnostics::report(PvDiagnostic::Error, contentredirect, why + QStringLiteral("; the redirect is skipped"), attribute);
+}
 }
 
 PvContentDropRedirectList::PvContentDropRedirectList(const QDomElement& contentredirects)
@@ -35,6 +58,7 @@ void PvContentDropRedirectList::read(const QDomElement& contentredirect)
     const int to = PvXMLParser::intAttribute(contentredirect, QStringLiteral("to"), -1);
     if (!startOk || !endOk || end < 0 || to < 0 || qint64(end) - start >= maximumRangeWidth) {
         qWarning("parse error");
+        reportSkipped(contentredirect, startOk && endOk, end, to);
         return;
     }
     if (start <= end)

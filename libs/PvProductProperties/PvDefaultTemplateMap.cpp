@@ -1,5 +1,7 @@
 #include "PvDefaultTemplateMap.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvPageTypeList.h"
 #include "PvXMLParser.h"
 
@@ -25,6 +27,10 @@ void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
 void PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
     const PvPageTypeList pageTypes(PvXMLParser::attribute(entry, QStringLiteral("pageType")));
+    if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
+        PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
+    PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
+    PvProductDiagnostics::checkEnum<PvPageAlignment>(entry, QStringLiteral("alignment"), "alignment");
     const QList<PvPageAlignmentEnum> alignments =
         PvPageAlignment(PvXMLParser::attribute(entry, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle")))
             .splitToBitsSorted();

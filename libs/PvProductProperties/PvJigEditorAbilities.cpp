@@ -1,5 +1,7 @@
 #include "PvJigEditorAbilities.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvXMLParser.h"
 
 #include <QHash>
@@ -23,6 +25,12 @@ void readCategories(const QDomElement& element, QHash<PvPageTypeEnum, QStringLis
     const PvPageType pageType(PvXMLParser::attribute(element, QStringLiteral("pageType")));
     // Blanks around names are kept: they are part of the category names as written.
     const QStringList names = element.text().split(QLatin1Char(','), Qt::SkipEmptyParts);
+    for (const QString& name : names) {
+        if (PvProductDiagnostics::listening() && name != name.trimmed())
+            PvProductDiagnostics::report(PvDiagnostic::Error, element,
+                                         QStringLiteral("the text of \"categories\": %1 has blanks around it, so it names no category").arg(PvDiagnostics::quoted(name)));
+    }
+    PvProductDiagnostics::checkEnum<PvPageType>(element, QStringLiteral("pageType"), "page type");
     for (PvPageTypeEnum bit : pageType.splitToBitsSorted()) {
         if (PvPageType(bit).isValid())
             categories.insert(bit, names);

@@ -1,5 +1,7 @@
 #include "PvProductClassification.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvXMLParser.h"
 
 #include <cmath>
@@ -14,6 +16,24 @@ std::optional<QSize> sizeFromName(const QString& name)
     if (parts.size() != 2)
         return std::nullopt;
     return QSize(parts.constFirst().trimmed().toInt(nullptr, 10), parts.constLast().trimmed().toInt(nullptr, 10));
+}
+
+// Sizes that do not read and groups that do not survive the Latin-1 repair.
+void reportMistakes(const QDomElement& classification)
+{
+    const QString group = classification.attribute(QStringLiteral("group"));
+    const QString repaired = QString::fromUtf8(group.toLatin1());
+    if (group != repaired)
+        PvProductDiagnostics::report(PvDiagnostic::Error, classification,
+                                     QStringLiteral("attribute \"group\": %1 is not plain ASCII and is read as %2").arg(PvDiagnostics::quoted(group), PvDiagnostics::quoted(repaired)),
+                                     QStringLiteral("group"));
+    for (const char* unit : { "cm", "inch" }) {
+        const QString name = classification.attribute(QLatin1String(unit));
+        if (!name.isEmpty() && !sizeFromName(name))
+            PvProductDiagnostics::report(PvDiagnostic::Error, classification,
+                                         QStringLiteral("attribute %1: %2 is not a size written WxH; the product has no size").arg(PvDiagnostics::quoted(QLatin1String(unit)), PvDiagnostics::quoted(name)),
+                                         QLatin1String(unit));
+    }
 }
 
 bool isInch(const PvDistanceUnit& unit)
@@ -35,6 +55,8 @@ PvProductClassification::PvProductClassification(const QDomElement& product)
     // repairs them. A correct value outside ASCII does not survive this, and never did.
     m_group = PvProductClassificationGroup(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1()));
     calculateSize();
+    if (PvProductDiagnostics::listening())
+        reportMistakes(classification);
 }
 
 PvProductClassification::PvProductClassification(const PvProductClassification& other) = default;

@@ -1,5 +1,6 @@
 #include "PvProductTypeDescription.h"
 
+#include "PvProductDiagnostics.h"
 #include "PvProductPropertiesLogging.h"
 #include "PvSurroundingKey.h"
 #include "PvXMLParser.h"
@@ -59,6 +60,7 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     initArticleClass(product);
     initImageFX(product);
     m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding")));
+    PvProductDiagnostics::checkEnum<PvCoverType>(product, QStringLiteral("binding"), "cover type");
     initLayout(product);
     initRedirectsAndDefaults(product);
     initVariants(product);
@@ -80,18 +82,25 @@ void PvProductTypeDescription::initIdentity(const QDomElement& product)
     m_productType = PvProductType(PvXMLParser::attribute(product, QStringLiteral("name"), QString(), true));
     m_isVario = PvXMLParser::boolAttribute(product, QStringLiteral("isVario"), false);
     m_isTwoSided = PvXMLParser::boolAttribute(product, QStringLiteral("isTwoSided"), false);
+    if (m_productType.name().isEmpty() && !product.isNull())
+        PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("\"product\" has no \"name\": the product loads under the empty name"));
 }
 
 void PvProductTypeDescription::initArticleClass(const QDomElement& product)
 {
     m_articleClass = PvArticleClass(PvXMLParser::attribute(product, QStringLiteral("class"), QStringLiteral("unknown"), true));
-    if (m_articleClass.splitToBits().size() != 1)
+    PvProductDiagnostics::checkEnum<PvArticleClass>(product, QStringLiteral("class"), "article class");
+    if (m_articleClass.splitToBits().size() != 1) {
+        if (m_articleClass.splitToBits().size() > 1)
+            PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("attribute \"class\": a product has exactly one article class"), QStringLiteral("class"));
         m_articleClass = PvArticleClass();
+    }
 }
 
 void PvProductTypeDescription::initImageFX(const QDomElement& product)
 {
     m_imageFX = PvImageFXs(PvXMLParser::attribute(product, QStringLiteral("imageFXs")));
+    PvProductDiagnostics::checkEnum<PvImageFXs>(product, QStringLiteral("imageFXs"), "image effect");
     m_canHaveBorder = m_canHaveShadow = !m_imageFX.hasAnyOf(PvImageFXsGrayscale);
 }
 
@@ -99,6 +108,7 @@ void PvProductTypeDescription::initLayout(const QDomElement& product)
 {
     m_horizontalPages = PvXMLParser::boolAttribute(product, QStringLiteral("horizontalPages"), true);
     m_productAlignment = PvProductAlignmentStyle(PvXMLParser::attribute(product, QStringLiteral("productAlignment")));
+    PvProductDiagnostics::checkEnum<PvProductAlignmentStyle>(product, QStringLiteral("productAlignment"), "product alignment style");
     m_mustPaintMiralLogoOnSpine = PvXMLParser::boolAttribute(product, QStringLiteral("hasLogoOnSpine"), false);
     m_surroundings = PvSurroundingDescriptionList(m_productType, product);
 }
@@ -124,6 +134,7 @@ void PvProductTypeDescription::initPages(const QDomElement& product)
     // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
     // pageTypes(n) warn about the product.
     m_pageTypes = PvPageTypeList(child(product, "pages").text());
+    PvProductDiagnostics::checkEnum<PvPageType>(child(product, "pages"), QString(), "page type", true);
 
     const auto isSpine = [](const PvPageType& type) { return type == PvPageTypeSpine; };
     const auto isJacket = [](const PvPageType& type) { return type == PvPageTypeJacket; };
@@ -147,6 +158,7 @@ void PvProductTypeDescription::initReplacement(const QDomElement& product)
 {
     m_replacedByProduct = PvProductType(PvXMLParser::attribute(product, QStringLiteral("replacedBy"), QString(), true));
     m_conversionStrategy = PvXMLRewriterStrategy(PvXMLParser::attribute(product, QStringLiteral("conversionStrategy"), QString(), true));
+    PvProductDiagnostics::checkEnum<PvXMLRewriterStrategy>(product, QStringLiteral("conversionStrategy"), "conversion strategy");
 }
 
 void PvProductTypeDescription::initPricListCategories(const QDomElement& product)
@@ -168,7 +180,7 @@ void PvProductTypeDescription::initPreview3D(const QDomElement& product)
 
 QList<int> PvProductTypeDescription::decodeIntList(const QDomElement& element)
 {
-    return PvXMLParser::intList(element.text());
+    return PvXMLParser::intList(element);
 }
 
 int PvProductTypeDescription::decodeFoldSafetyMargin(const QDomElement& element)

@@ -1,6 +1,8 @@
 #include "PvProductTypeDescriptionReader.h"
 
+#include "PvDiagnosticCollector.h"
 #include "PvPlatformIndependent.h"
+#include "PvProductDiagnostics.h"
 #include "PvProductTypeDescription.h"
 #include "PvXMLLoader.h"
 
@@ -25,6 +27,8 @@ QHash<PvProductType, PvProductTypeDescription*> PvProductTypeDescriptionReader::
         if (!description)
             continue;
         PvProductTypeDescription*& entry = result[description->productType()];
+        if (entry && PvDiagnostics::isListening(pvProductsLog()))
+            reportReplaced(file, *description);
         delete entry;
         entry = description;
     }
@@ -33,15 +37,54 @@ QHash<PvProductType, PvProductTypeDescription*> PvProductTypeDescriptionReader::
 
 PvProductTypeDescription* PvProductTypeDescriptionReader::readFile(const QFileInfo& fileInfo) const
 {
+    const PvDiagnosticFileScope scope(fileInfo.filePath());
     const QDomElement root = PvXMLLoader::loadDocumentElement(fileInfo);
     if (root.isNull()) {
         qWarning() << "could not open" << fileInfo.absoluteFilePath();
         return nullptr;
     }
-    return new PvProductTypeDescription(root.firstChildElement(QStringLiteral("product")));
+    const QDomElement product = root.firstChildElement(QStringLiteral("product"));
+    auto* description = new PvProductTypeDescription(product);
+    if (PvDiagnostics::isListening(pvProductsLog()))
+        reportFile(fileInfo, root, *description);
+    return description;
 }
 
 QStringList PvProductTypeDescriptionReader::fileFilter()
 {
     return { QStringLiteral("*.xml") };
+}
+
+void PvProductTypeDescriptionReader::reportFile(const QFileInfo& fileInfo, const QDomElement& root, const PvProductTypeDescription& description)
+{
+    using PvDiagnostics::quoted;
+    if (fileInfo.suffix() != QLatin1String("xml"))
+        PvDiagnostics::reportFile(pvProductsLog(), PvDiagnostic::Error, QStringLiteral("not a \".xml\" file, but read as a product file all the same"));
+    const QDomElement product = root.firstChildElement(QStringLiteral("product"));
+    if (product.isNull()) {
+        PvProductDiagnostics::report(PvDiagnostic::Error, root,
+                                     QStringLiteral("no \"product\" element: the file loads as a product with an empty name and default values"));
+        return;
+    }
+    PvProductDiagnostics::checkSingle(root, QStringLiteral("product"));
+    // The description reads only the first of each of these.
+    for (const char* single : { "pages", "productionnumbering", "pageswithcontent", "contentredirects", "rotationredirects", "defaults",
+                                "editorAbilities", "tilt", "classification", "preview3D", "extra_production_pages", "pricelist", "barcodes" })
+        PvProductDiagnostics::checkSingle(product, QLatin1String(single));
+    if (product.firstChildElement(QStringLiteral("pages")).isNull())
+        PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("\"product\" has no \"pages\": its page list is one illegal page"));
+    if (description.isValid())
+        return;
+    const QString why = description.articleClass().isValid()
+        ? QStringLiteral("\"binding\" must name a cover type (only the class \"prints\" goes without)")
+        : QStringLiteral("\"class\" must name exactly one known article class");
+    PvProductDiagnostics::report(PvDiagnostic::Error, product,
+                                 QStringLiteral("product %1 is not valid: %2").arg(quoted(description.productType().name()), why));
+}
+
+void PvProductTypeDescriptionReader::reportReplaced(const QFileInfo& fileInfo, const PvProductTypeDescription& description)
+{
+    const PvDiagnosticFileScope scope(fileInfo.filePath());
+    PvDiagnostics::reportFile(pvProductsLog(), PvDiagnostic::Error, QStringLiteral("product type %1 is defined again in this directory; this file sorts later and replaces the earlier one")
+                                                 .arg(PvDiagnostics::quoted(description.productType().name())));
 }

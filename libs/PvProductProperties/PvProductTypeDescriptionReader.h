@@ -4,6 +4,7 @@
 #include "pvproductproperties_export.h"
 
 #include <QDir>
+#include <QDomElement>
 #include <QFileInfo>
 #include <QHash>
 #include <QStringList>
@@ -37,5 +38,8 @@ public:
     [[nodiscard]] static QStringList fileFilter();
 
 private:
+    static void reportFile(const QFileInfo& fileInfo, const QDomElement& root, const PvProductTypeDescription& description);
+    static void reportReplaced(const QFileInfo& fileInfo, const PvProductTypeDescription& description);
+
     QDir m_dir;
 };

@@ -1,5 +1,7 @@
 #include "PvProductionExtraPageGroup.h"
 
+#include "PvProductDiagnostics.h"
+
 #include <utility>
 
 #include <QDebug>
@@ -15,7 +17,11 @@ PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item)
 PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item, int pageBudget)
     : m_content(item.firstChildElement(QStringLiteral("pdf")))
 {
-    readTargetPages(item.firstChildElement(QStringLiteral("target_pages")).text(), pageBudget);
+    readTargetPages(item.firstChildElement(QStringLiteral("target_pages")), pageBudget);
+    if (PvProductDiagnostics::listening() && item.firstChildElement(QStringLiteral("pdf")).isNull() && !item.isNull())
+        PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"pdf\" adds empty pages"));
+    if (PvProductDiagnostics::listening() && item.firstChildElement(QStringLiteral("target_pages")).isNull() && !item.isNull())
+        PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"target_pages\" goes on no page"));
 }
 
 PvProductionExtraPageGroup::PvProductionExtraPageGroup(const PvProductionExtraPageGroup& other) = default;
@@ -24,8 +30,9 @@ PvProductionExtraPageGroup& PvProductionExtraPageGroup::operator=(const PvProduc
 PvProductionExtraPageGroup& PvProductionExtraPageGroup::operator=(PvProductionExtraPageGroup&& other) noexcept = default;
 PvProductionExtraPageGroup::~PvProductionExtraPageGroup() = default;
 
-void PvProductionExtraPageGroup::readTargetPages(const QString& text, int pageBudget)
+void PvProductionExtraPageGroup::readTargetPages(const QDomElement& targetPages, int pageBudget)
 {
+    const QString text = targetPages.text();
     bool warned = false;
     const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
     for (const QString& part : parts) {
@@ -41,8 +48,12 @@ void PvProductionExtraPageGroup::readTargetPages(const QString& text, int pageBu
         } else {
             bool ok = false;
             first = last = part.toInt(&ok, 10);
-            if (!ok)
+            if (!ok) {
+                if (PvDiagnostics::isListening(pvProductsLog()))
+                    PvProductDiagnostics::report(PvDiagnostic::Error, targetPages, QStringLiteral("the text of \"target_pages\": %1 is not a page or a range a-b and is skipped")
+                                                                 .arg(PvDiagnostics::quoted(part.trimmed())));
                 continue;
+            }
         }
         // Product files come from outside: a range such as 1-2000000000 is a typing error,
         // not a product, and must not allocate gigabytes.
@@ -50,6 +61,9 @@ void PvProductionExtraPageGroup::readTargetPages(const QString& text, int pageBu
         if (count > pageBudget - m_targetPages.size()) {
             if (!warned)
                 qWarning("Too many target pages, skipped: \"%s\"", qUtf8Printable(part.trimmed()));
+            if (PvDiagnostics::isListening(pvProductsLog()))
+                PvProductDiagnostics::report(PvDiagnostic::Error, targetPages, QStringLiteral("the text of \"target_pages\": %1 is more pages than %2; it is skipped")
+                                                             .arg(PvDiagnostics::quoted(part.trimmed())).arg(pageBudget));
             warned = true;
             continue;
         }

@@ -47,7 +47,7 @@ private:
 
     //! Reads at most \a pageBudget target pages; parts that do not fit are skipped.
     PvProductionExtraPageGroup(const QDomElement& item, int pageBudget);
-    void readTargetPages(const QString& text, int pageBudget);
+    void readTargetPages(const QDomElement& targetPages, int pageBudget);
 
     QList<int> m_targetPages;
     PvProductionExtraPage m_content;

@@ -1,5 +1,7 @@
 #include "PvSpiralConfig.h"
 
+#include "PvProductDiagnostics.h"
+
 #include "PvCSSSkinManager.h"
 #include "PvDirectoryConfig.h"
 #include "PvProductPropertiesLogging.h"
@@ -92,6 +94,8 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     const QString defaultVariant = QStringLiteral("spiralbinding-one-loop-vertical.png");
     m_variant = confinedPath(PvXMLParser::attribute(element, QStringLiteral("variant"), defaultVariant), defaultVariant);
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
+    if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
+        PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
 }
 
 PvSpiralConfig::PvSpiralConfig(const PvSpiralConfig& other) = default;

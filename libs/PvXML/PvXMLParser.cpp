@@ -1,16 +1,30 @@
 #include "PvXMLParser.h"
 
+#include "PvDiagnostics.h"
+
 #include <algorithm>
 #include <climits>
 #include <cmath>
 
 namespace {
+// The typed readers fall back to their default; this says so where someone listens.
+void reportDefault(const QDomElement& element, const QString& name, const QString& expected)
+{
+    if (PvDiagnostics::isListening(pvXmlLog()))
+        PvDiagnostics::report(pvXmlLog(), PvDiagnostic::Error, element,
+                              QStringLiteral("attribute %1: %2 is not %3; the default is used")
+                                  .arg(PvDiagnostics::quoted(name), PvDiagnostics::quoted(element.attribute(name)), expected),
+                              name);
+}
+
 std::optional<double> doubleOf(const QDomElement& element, const QString& name)
 {
     if (!element.hasAttribute(name))
         return std::nullopt;
     bool ok = false;
     const double value = element.attribute(name).trimmed().toDouble(&ok);
+    if (!ok)
+        reportDefault(element, name, QStringLiteral("a number"));
     return ok ? std::optional<double>(value) : std::nullopt;
 }
 
@@ -59,6 +73,7 @@ bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name,
         return true;
     if (text == QLatin1String("false") || text == QLatin1String("0") || text == QLatin1String("no"))
         return false;
+    reportDefault(element, name, QStringLiteral("true or false"));
     return defaultValue;
 }
 
@@ -68,6 +83,8 @@ int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, i
         return defaultValue;
     bool ok = false;
     const int value = element.attribute(name).trimmed().toInt(&ok, 10);
+    if (!ok)
+        reportDefault(element, name, QStringLiteral("a whole number"));
     return ok ? value : defaultValue;
 }
 
@@ -124,6 +141,10 @@ int PvXMLParser::intText(const QDomElement& element, const QString& childName, i
         return defaultValue;
     bool ok = false;
     const int value = child.text().trimmed().toInt(&ok, 10);
+    if (!ok && PvDiagnostics::isListening(pvXmlLog()))
+        PvDiagnostics::report(pvXmlLog(), PvDiagnostic::Error, child,
+                              QStringLiteral("the text of %1: %2 is not a whole number; the default is used")
+                                  .arg(PvDiagnostics::quoted(childName), PvDiagnostics::quoted(child.text().trimmed())));
     return ok ? value : defaultValue;
 }
 
@@ -136,6 +157,25 @@ QList<int> PvXMLParser::intList(const QString& text)
         const int number = part.toInt(&ok, 10);
         if (ok)
             numbers.append(number);
+    }
+    return numbers;
+}
+
+QList<int> PvXMLParser::intList(const QDomElement& element)
+{
+    const QString text = element.text();
+    QList<int> numbers = intList(text);
+    // Counting commas is cheap; the pieces are looked at again only when one was skipped.
+    if (numbers.size() != text.count(QLatin1Char(',')) + 1 && PvDiagnostics::isListening(pvXmlLog())) {
+        const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
+        for (const QString& part : parts) {
+            bool ok = false;
+            part.toInt(&ok, 10);
+            if (!ok)
+                PvDiagnostics::report(pvXmlLog(), PvDiagnostic::Error, element,
+                                      QStringLiteral("the text of %1: %2 is not a whole number and is skipped")
+                                          .arg(PvDiagnostics::quoted(element.tagName()), PvDiagnostics::quoted(part.trimmed())));
+        }
     }
     return numbers;
 }

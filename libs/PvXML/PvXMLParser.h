@@ -39,6 +39,8 @@ public:
     [[nodiscard]] static QVector3D readVector3D(const QDomElement& element, const QVector3D& defaultValue = QVector3D());
     //! The decimal integers of comma-separated text; empty parts and parts that are no integer are skipped.
     [[nodiscard]] static QList<int> intList(const QString& text);
+    //! The same of \a element's text, reporting the parts it skips.
+    [[nodiscard]] static QList<int> intList(const QDomElement& element);
     //! The integer text of the first child element \a childName.
     [[nodiscard]] static int intText(const QDomElement& element, const QString& childName, int defaultValue);
 };

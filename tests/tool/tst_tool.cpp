@@ -1,6 +1,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -19,6 +21,8 @@ struct Run {
 Run pvproducts(const QStringList& arguments)
 {
     QProcess process;
+    // Outside the fixtures, so that the tool names their files by absolute paths.
+    process.setWorkingDirectory(QDir::tempPath());
     process.start(QStringLiteral(PV_TOOL), arguments);
     if (!process.waitForFinished(60000))
         return {};
@@ -43,6 +47,9 @@ private Q_SLOTS:
     void lintFindings_data();
     void lintFindings();
     void sampleCatalogue();
+    void showJsonMatchesList();
+    void listVerbose();
+    void libraryWarningsNameTheirFile();
 };
 
 void TestTool::commands_data()
@@ -63,8 +70,8 @@ void TestTool::commands_data()
     QTest::newRow("unknown type") << data + args("show no-such-product") << 1 << QStringList();
     QTest::newRow("find by class") << data + args("find --class poster") << 0
         << QStringList { QStringLiteral("test-poster"), QStringLiteral("test-poster-large") };
-    QTest::newRow("find without filter explains") << data + args("find") << 0
-        << QStringList { QStringLiteral("No filter given: the library answers an empty set, which means every product.") };
+    QTest::newRow("find without filter lists every product") << data + args("find") << 0
+        << QStringList { QStringLiteral("test-book"), QStringLiteral("test-calendar"), QStringLiteral("test-poster"), QStringLiteral("test-poster-large") };
     QTest::newRow("groups by size") << data + args("groups") << 0
         << QStringList { QStringLiteral("Poster (Poster)"), QStringLiteral("  40x50  16x20  test-poster"), QStringLiteral("  60x80  24x32  test-poster-large") };
     QTest::newRow("closest") << data + args("closest test-book Poster") << 0 << QStringList { QStringLiteral("test-poster") };
@@ -76,6 +83,14 @@ void TestTool::commands_data()
     QTest::newRow("missing data dir") << args("--data /no/such/dir list") << 2 << QStringList();
     QTest::newRow("spiral without out") << data + args("spiral test-calendar") << 2 << QStringList();
     QTest::newRow("help of a command") << args("show --help") << 0 << QStringList();
+    QTest::newRow("show a retired product") << data + args("show test-old-book") << 0
+        << QStringList { QStringLiteral("legacy: yes"), QStringLiteral("replacedBy: test-book"), QStringLiteral("conversionStrategy: RewriteOneToTwoPages") };
+    QTest::newRow("show names the file that won") << data + args("show test-poster") << 0
+        << QStringList { QStringLiteral("file: ") + good + QStringLiteral("/products-updates/poster.xml"),
+                         QStringLiteral("replaces: ") + good + QStringLiteral("/products/poster.xml"), QStringLiteral("legacy: no") };
+    QTest::newRow("legacy of a product in use") << data + args("legacy test-book") << 1 << QStringList();
+    QTest::newRow("lint help shows its options") << args("lint --help") << 0
+        << QStringList { QStringLiteral("  --strict             Warnings fail the run too.") };
 }
 
 void TestTool::commands()
@@ -118,17 +133,17 @@ void TestTool::lintFindings_data()
     QTest::newRow("invalid and why") << "products/c-typos.xml:3:3: error: product \"typos\" is not valid";
     QTest::newRow("bool") << "products/c-typos.xml:3:62: error: attribute \"horizontalPages\": \"maybe\" is not true or false";
     QTest::newRow("int") << "products/c-typos.xml:3:86: error: attribute \"foldsafetymargin\": \"wide\" is not a whole number";
-    QTest::newRow("unknown attribute") << "products/c-typos.xml:3:110: warning: unknown attribute \"colour\"";
+    QTest::newRow("unknown attribute") << "products/c-typos.xml:3:110: error: unknown attribute \"colour\"";
     QTest::newRow("page name") << "products/c-typos.xml:4:5: error: the text of \"pages\": unknown page type \"spinee\"";
     QTest::newRow("empty page") << "products/c-typos.xml:4:5: error: the text of \"pages\": an empty entry";
     QTest::newRow("number list") << "products/c-typos.xml:5:5: error: the text of \"productionnumbering\": \"x\" is not a whole number";
     QTest::newRow("huge range") << "products/c-typos.xml:7:24: error: attribute \"from\": \"1-10000000\" spans more than 100000 pages";
     QTest::newRow("missing to") << "products/c-typos.xml:8:7: error: \"contentredirect\" has no attribute \"to\"";
-    QTest::newRow("unknown element") << "products/c-typos.xml:10:5: warning: unknown element \"editorAbilites\"";
+    QTest::newRow("unknown element") << "products/c-typos.xml:10:5: error: unknown element \"editorAbilites\"";
     QTest::newRow("naming style") << "products/c-typos.xml:12:7: error: the text of \"pageNamingStyle\": unknown page naming style \"bok\"";
     QTest::newRow("jig tag") << "products/c-typos.xml:13:13: error: unknown jig type \"backdrop\"";
     QTest::newRow("mesh") << "products/c-typos.xml:15:16: error: a mesh needs at least one \"textureTarget\"";
-    QTest::newRow("duplicate") << "products/d-dup.xml:1:11: warning: product type \"dup\" is defined again in";
+    QTest::newRow("duplicate") << "products/e-dup.xml:1:1: error: product type \"dup\" is defined again in this directory";
     QTest::newRow("replacedBy") << "legacy/old.xml:1:61: error: \"replacedBy\" names no known product: \"nowhere\"";
 }
 
@@ -163,6 +178,46 @@ void TestTool::sampleCatalogue()
     const Run category = pvproducts({ QStringLiteral("--language"), QStringLiteral("en_GB"), QStringLiteral("category"), QStringLiteral("Hintergründe") });
     QCOMPARE(category.exitCode, 0);
     QVERIFY2(category.out.contains(QLatin1String("Backgrounds")), qPrintable(category.out));
+}
+
+void TestTool::showJsonMatchesList()
+{
+    const Run list = pvproducts({ QStringLiteral("--data"), good, QStringLiteral("list"), QStringLiteral("--json") });
+    for (const QJsonValue& value : QJsonDocument::fromJson(list.out.toUtf8()).array()) {
+        const QJsonObject row = value.toObject();
+        const Run show = pvproducts({ QStringLiteral("--data"), good, QStringLiteral("show"), row.value(QStringLiteral("name")).toString(), QStringLiteral("--json") });
+        const QJsonObject shown = QJsonDocument::fromJson(show.out.toUtf8()).object();
+        for (auto it = row.constBegin(); it != row.constEnd(); ++it) {
+            QVERIFY2(shown.contains(it.key()), qPrintable(it.key()));
+            QCOMPARE(shown.value(it.key()).type(), it.value().type());
+            QCOMPARE(shown.value(it.key()), it.value());
+        }
+    }
+}
+
+void TestTool::listVerbose()
+{
+    const Run run = pvproducts({ QStringLiteral("--data"), good, QStringLiteral("list"), QStringLiteral("--verbose"), QStringLiteral("--json") });
+    QCOMPARE(run.exitCode, 0);
+    const QJsonArray rows = QJsonDocument::fromJson(run.out.toUtf8()).array();
+    const auto poster = std::find_if(rows.cbegin(), rows.cend(), [](const QJsonValue& v) { return v.toObject().value(QStringLiteral("name")) == QLatin1String("test-poster"); });
+    QVERIFY(poster != rows.cend());
+    QCOMPARE(poster->toObject().value(QStringLiteral("file")).toString(), good + QStringLiteral("/products-updates/poster.xml"));
+    QCOMPARE(poster->toObject().value(QStringLiteral("replaces")).toArray(), QJsonArray::fromStringList({ good + QStringLiteral("/products/poster.xml") }));
+}
+
+void TestTool::libraryWarningsNameTheirFile()
+{
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkpath(QStringLiteral("products")));
+    QFile file(root.filePath(QStringLiteral("products/redirect.xml")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<products><product name=\"r\" class=\"poster\" binding=\"wall\"><pages>page</pages>"
+               "<contentredirects><contentredirect from=\"1\" to=\"-1\"/></contentredirects></product></products>");
+    file.close();
+    const Run run = pvproducts({ QStringLiteral("--data"), root.path(), QStringLiteral("list") });
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY2(run.err.contains(QStringLiteral("/products/redirect.xml: parse error")), qPrintable(run.err));
 }
 
 QTEST_GUILESS_MAIN(TestTool)

@@ -1,0 +1,17 @@
+#include "PvToolContext.h"
+
+PvCommand pvListCommand();
+PvCommand pvShowCommand();
+PvCommand pvFindCommand();
+PvCommand pvGroupsCommand();
+PvCommand pvClosestCommand();
+PvCommand pvLegacyCommand();
+PvCommand pvCategoryCommand();
+PvCommand pvSpiralCommand();
+PvCommand pvLintCommand();
+
+QList<PvCommand> pvCommands()
+{
+    return { pvListCommand(), pvShowCommand(), pvFindCommand(), pvGroupsCommand(), pvClosestCommand(),
+             pvLegacyCommand(), pvCategoryCommand(), pvSpiralCommand(), pvLintCommand() };
+}

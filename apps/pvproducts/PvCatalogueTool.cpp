@@ -4,6 +4,7 @@
 #include "PvDiagnosticCollector.h"
 #include "PvDirectoryConfig.h"
 #include "PvLocaleAndTranslationManager.h"
+#include "PvProductPropertiesTranslations.h"
 #include "PvToolMessages.h"
 
 #include <algorithm>
@@ -75,6 +76,7 @@ int PvCatalogueTool::run(const QStringList& arguments)
         if (locale.language() == QLocale::C)
             return usage(QStringLiteral("unknown language \"%1\"").arg(m_parser.value(languageOption)));
         PvLocaleAndTranslationManager::instance().setLocale(locale);
+        PvProductPropertiesTranslations::load(locale);
     }
     PvBasisSettings::instance().setRunsInMasterMode(m_parser.isSet(masterOption));
 

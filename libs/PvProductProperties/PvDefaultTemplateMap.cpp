@@ -3,6 +3,7 @@
 #include "PvProductDiagnostics.h"
 
 #include "PvPageTypeList.h"
+#include "PvProductPropertiesLogging.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
@@ -10,6 +11,9 @@
 namespace {
 // The house background of pages whose default names none.
 const char* const houseBackground = "201";
+// Every default makes three entries per page type and alignment it names. Real products hold
+// a few thousand at most; the bound keeps a file's entries from costing more than a few MB.
+constexpr qsizetype maximumEntries = 20000;
 }
 
 PvDefaultTemplateMap::PvDefaultTemplateMap(const QDomElement& defaults)
@@ -20,11 +24,22 @@ PvDefaultTemplateMap::PvDefaultTemplateMap(const QDomElement& defaults)
 void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
 {
     const QString tag = QStringLiteral("default");
+    bool complete = true;
     for (QDomElement entry = defaults.firstChildElement(tag); !entry.isNull(); entry = entry.nextSiblingElement(tag))
-        applyDefault(entry);
+        complete &= applyDefault(entry);
+    if (!complete)
+        qCWarning(lcProductProperties, "Default templates beyond %lld entries skipped", qlonglong(maximumEntries));
 }
 
-void PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
+bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString& name)
+{
+    if (m_templates.size() >= maximumEntries && !m_templates.contains({ key }))
+        return false;
+    m_templates.insert({ key }, name);
+    return true;
+}
+
+bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
     const PvPageTypeList pageTypes(PvXMLParser::attribute(entry, QStringLiteral("pageType")));
     if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
@@ -44,14 +59,16 @@ void PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
     const QString background = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
     const QString design = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design")));
 
+    bool complete = true;
     for (const PvPageType& pageType : pageTypes) {
         for (const PvPageAlignmentEnum alignment : alignments) {
             const PvPageContext context(pageType, alignment);
-            m_templates.insert({ PvDefaultTemplateKey(context, PvDefaultTemplateTypeLayout, pageNumber, scenePageCount) }, layout);
-            m_templates.insert({ PvDefaultTemplateKey(context, PvDefaultTemplateTypeBackground, pageNumber, scenePageCount) }, background);
-            m_templates.insert({ PvDefaultTemplateKey(context, PvDefaultTemplateTypeDesign, pageNumber, scenePageCount) }, design);
+            complete &= store(PvDefaultTemplateKey(context, PvDefaultTemplateTypeLayout, pageNumber, scenePageCount), layout);
+            complete &= store(PvDefaultTemplateKey(context, PvDefaultTemplateTypeBackground, pageNumber, scenePageCount), background);
+            complete &= store(PvDefaultTemplateKey(context, PvDefaultTemplateTypeDesign, pageNumber, scenePageCount), design);
         }
     }
+    return complete;
 }
 
 QString PvDefaultTemplateMap::findTemplate(const PvDefaultTemplateKey& key) const

@@ -18,7 +18,10 @@ public:
     //! The entries of the "default" children of \a defaults.
     explicit PvDefaultTemplateMap(const QDomElement& defaults);
 
-    //! Adds the entries of \a defaults; a later entry replaces an earlier one of equal key.
+    /*!
+     * Adds the entries of \a defaults; a later entry replaces an earlier one of equal key.
+     * New keys beyond 20000 entries are skipped, with a warning in "pv.productproperties".
+     */
     void applyDefaultsNode(const QDomElement& defaults);
 
     /*!
@@ -33,7 +36,8 @@ public:
     [[nodiscard]] static QString removeUmlauts(const QString& text);
 
 private:
-    void applyDefault(const QDomElement& entry);
+    bool applyDefault(const QDomElement& entry);
+    bool store(const PvDefaultTemplateKey& key, const QString& name);
 
     // Stored under a hash of every field: the key's own hash leaves out page number and scene
     // page count, so a file with many numbered pages would put them all in one bucket and

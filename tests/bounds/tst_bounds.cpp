@@ -1,4 +1,5 @@
 #include "PvContentDropRedirectList.h"
+#include "PvDefaultTemplateMap.h"
 #include "PvDirectoryConfig.h"
 #include "PvJigType.h"
 #include "PvProductTypeDescription.h"
@@ -234,6 +235,38 @@ private Q_SLOTS:
         else
             QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
         QCOMPARE(description.pageTypes(unsigned(pageCount)).size(), cut ? maximumPages : expected);
+    }
+
+    void defaultTemplatesBound_data()
+    {
+        QTest::addColumn<int>("defaults"); // one page type, one alignment: three entries each
+        QTest::addColumn<QString>("last");
+        QTest::addColumn<int>("size");
+        QTest::addColumn<QString>("page0");
+
+        const QString again = QStringLiteral("<default pageType=\"page\" alignment=\"left\" pageNr=\"0\" background=\"again\"/>");
+        QTest::newRow("19998 entries") << 6666 << QString() << 19998 << "b0";
+        QTest::newRow("one default over: two of three stored") << 6667 << QString() << 20000 << "b0";
+        QTest::newRow("full map still replaces a known key") << 6667 << again << 20000 << "again";
+    }
+
+    void defaultTemplatesBound()
+    {
+        QFETCH(int, defaults);
+        QFETCH(QString, last);
+        QFETCH(int, size);
+        QFETCH(QString, page0);
+
+        QString xml;
+        for (int i = 0; i < defaults; ++i)
+            xml += QStringLiteral("<default pageType=\"page\" alignment=\"left\" pageNr=\"%1\" background=\"b%1\"/>").arg(i);
+        if (size == 20000 && 3 * defaults > size)
+            QTest::ignoreMessage(QtWarningMsg, "Default templates beyond 20000 entries skipped");
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        const PvDefaultTemplateMap map(document(QStringLiteral("<defaults>%1%2</defaults>").arg(xml, last)).documentElement());
+        QCOMPARE(map.size(), size);
+        const PvPageContext context { PvPageType(PvPageTypePage), PvPageAlignment(PvPageAlignmentLeft) };
+        QCOMPARE(map.findTemplate(PvDefaultTemplateKey(context, PvDefaultTemplateTypeBackground, 0)), page0);
     }
 
     void spiralLength_data()

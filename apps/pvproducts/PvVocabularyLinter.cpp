@@ -10,6 +10,7 @@
 #include "PvPageNamingStyle.h"
 #include "PvPageType.h"
 #include "PvProductAlignmentStyle.h"
+#include "PvSpiralConfig.h"
 #include "PvSurroundingType.h"
 #include "PvXMLRewriterStrategy.h"
 
@@ -176,7 +177,8 @@ void PvProductLinter::lintSpiralPictures(const QDomElement& spirals)
 {
     auto check = [&](const QDomElement& element, const QString& attribute, const QString& fallback) {
         const QString picture = element.hasAttribute(attribute) ? element.attribute(attribute) : fallback;
-        if (picture.isEmpty() || m_thumbnails.contains(picture))
+        // The loader itself reports a path that leaves the thumbnails folder.
+        if (picture.isEmpty() || m_thumbnails.contains(picture) || !PvSpiralConfig::isPicturePathAllowed(picture))
             return;
         report(element, PvDiagnostic::Error,
                QStringLiteral("loop picture %1 is not in the thumbnails directory (names are case-sensitive); the spiral is not drawn").arg(quoted(picture)),

@@ -24,11 +24,18 @@ PvDefaultTemplateMap::PvDefaultTemplateMap(const QDomElement& defaults)
 void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
 {
     const QString tag = QStringLiteral("default");
-    bool complete = true;
-    for (QDomElement entry = defaults.firstChildElement(tag); !entry.isNull(); entry = entry.nextSiblingElement(tag))
-        complete &= applyDefault(entry);
-    if (!complete)
-        qCWarning(lcProductProperties, "Default templates beyond %lld entries skipped", qlonglong(maximumEntries));
+    QDomElement firstSkipped;
+    for (QDomElement entry = defaults.firstChildElement(tag); !entry.isNull(); entry = entry.nextSiblingElement(tag)) {
+        if (!applyDefault(entry) && firstSkipped.isNull())
+            firstSkipped = entry;
+    }
+    if (firstSkipped.isNull())
+        return;
+    qCWarning(lcProductProperties, "Default templates beyond %lld entries skipped", qlonglong(maximumEntries));
+    if (PvProductDiagnostics::listening()) {
+        PvProductDiagnostics::report(PvDiagnostic::Error, firstSkipped,
+                                     QStringLiteral("more than %1 default templates; this one and those after it are skipped").arg(maximumEntries));
+    }
 }
 
 bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString& name)

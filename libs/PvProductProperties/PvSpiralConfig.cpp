@@ -51,21 +51,20 @@ int clampedToInt(qint64 value)
     return int(qBound(qint64(INT_MIN), value, qint64(INT_MAX)));
 }
 
-// Picture paths come from product files: they must name a file inside the thumbnails folder.
-bool staysInsideFolder(const QString& path)
-{
-    if (path.startsWith(QLatin1Char('/')) || path.startsWith(QLatin1Char('\\')) || path.startsWith(QLatin1Char(':'))
-        || QDir::isAbsolutePath(path) || (path.size() > 1 && path.at(1) == QLatin1Char(':')))
-        return false;
-    static const QRegularExpression separators(QStringLiteral("[/\\\\]"));
-    return !path.split(separators).contains(QStringLiteral(".."));
-}
 
-QString confinedPath(const QString& path, const QString& fallback)
+// The path in \a element's \a attribute, or \a fallback when it leaves the thumbnails folder.
+QString confinedPath(const QDomElement& element, const QString& attribute, const QString& fallback)
 {
-    if (staysInsideFolder(path))
+    const QString path = PvXMLParser::attribute(element, attribute, fallback);
+    if (PvSpiralConfig::isPicturePathAllowed(path))
         return path;
     qCWarning(lcProductProperties, "Picture path outside the thumbnails folder refused: \"%s\"", qUtf8Printable(path));
+    if (PvProductDiagnostics::listening()) {
+        PvProductDiagnostics::report(PvDiagnostic::Error, element,
+                                     QStringLiteral("attribute \"%1\": %2 leaves the thumbnails folder; the picture is refused")
+                                         .arg(attribute, PvDiagnostics::quoted(path)),
+                                     attribute);
+    }
     return fallback;
 }
 
@@ -92,10 +91,19 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     , m_loopDistance(PvXMLParser::intAttribute(element, QStringLiteral("loopDistance"), 30))
 {
     const QString defaultVariant = QStringLiteral("spiralbinding-one-loop-vertical.png");
-    m_variant = confinedPath(PvXMLParser::attribute(element, QStringLiteral("variant"), defaultVariant), defaultVariant);
+    m_variant = confinedPath(element, QStringLiteral("variant"), defaultVariant);
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
     if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
         PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
+}
+
+bool PvSpiralConfig::isPicturePathAllowed(const QString& path)
+{
+    if (path.startsWith(QLatin1Char('/')) || path.startsWith(QLatin1Char('\\')) || path.startsWith(QLatin1Char(':'))
+        || QDir::isAbsolutePath(path) || (path.size() > 1 && path.at(1) == QLatin1Char(':')))
+        return false;
+    static const QRegularExpression separators(QStringLiteral("[/\\\\]"));
+    return !path.split(separators).contains(QStringLiteral(".."));
 }
 
 PvSpiralConfig::PvSpiralConfig(const PvSpiralConfig& other) = default;
@@ -109,8 +117,8 @@ void PvSpiralConfig::readLoopImages(const QDomElement& element)
     const QString loopImage = QStringLiteral("loopImage");
     for (QDomElement child = element.firstChildElement(loopImage); !child.isNull(); child = child.nextSiblingElement(loopImage)) {
         const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"));
-        const QString file = PvXMLParser::attribute(child, QStringLiteral("imagePath"));
-        if (!colour.isEmpty() && !file.isEmpty() && !confinedPath(file, QString()).isEmpty())
+        const QString file = confinedPath(child, QStringLiteral("imagePath"), QString());
+        if (!colour.isEmpty() && !file.isEmpty())
             m_loopImages.insert(colour, file);
     }
 }

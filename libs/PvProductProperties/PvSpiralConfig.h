@@ -33,6 +33,12 @@ public:
     virtual ~PvSpiralConfig();
     //! @}
 
+    /*!
+     * Whether a picture path from a product file may be read: relative to the thumbnails
+     * folder, without ".." parts. Other paths are refused with a warning.
+     */
+    [[nodiscard]] static bool isPicturePathAllowed(const QString& path);
+
     //! Whether there are loops at all.
     [[nodiscard]] bool hasSpiral() const { return m_count > 0; }
     //! The number of loops ("count").

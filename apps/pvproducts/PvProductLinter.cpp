@@ -2,6 +2,7 @@
 
 #include "PvDiagnosticCollector.h"
 #include "PvDiagnostics.h"
+#include "PvJsonOutput.h"
 #include "PvPlatformIndependent.h"
 #include "PvProductTypeDescription.h"
 #include "PvProductTypeDescriptionReader.h"
@@ -147,7 +148,7 @@ void PvProductLinter::lintProductDirectory(const QDir& dir, Kind kind)
 
 QDomElement PvProductLinter::open(const QFileInfo& file)
 {
-    m_file = displayPath(file.filePath());
+    m_file = PvJsonOutput::displayPath(file.filePath());
     m_positions.reset();
     m_text.clear();
     QFile device(file.filePath());
@@ -164,7 +165,7 @@ QDomElement PvProductLinter::open(const QFileInfo& file)
 void PvProductLinter::addLibraryDiagnostics(QList<PvDiagnostic> diagnostics)
 {
     for (PvDiagnostic& d : diagnostics) {
-        d.file = displayPath(d.file);
+        d.file = PvJsonOutput::displayPath(d.file);
         if (d.place == PvDiagnostic::StartTagEnd && m_positions) {
             const PvSourcePositions::Position position = m_positions->refine(d.line, d.column, d.attribute);
             d.line = position.first;
@@ -244,10 +245,3 @@ void PvProductLinter::reportFile(PvDiagnostic::Severity severity, const QString&
     m_findings.append(finding);
 }
 
-QString PvProductLinter::displayPath(const QString& path) const
-{
-    // Paths as the author would type them: relative when below the working directory.
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    const QString relative = QDir::current().relativeFilePath(absolute);
-    return relative.startsWith(QLatin1String("..")) ? absolute : relative;
-}

@@ -60,7 +60,6 @@ private:
     void report(const QDomElement& element, PvDiagnostic::Severity severity, const QString& message, const QString& attribute = QString(),
                 const QString& suggestion = QString(), const QString& found = QString());
     void reportFile(PvDiagnostic::Severity severity, const QString& message);
-    [[nodiscard]] QString displayPath(const QString& path) const;
 
     QDir m_dataRoot;
     QSet<QString> m_knownProducts;

@@ -1,8 +1,7 @@
 #include "PvToolMessages.h"
 
 #include "PvDiagnosticCollector.h"
-
-#include <QDir>
+#include "PvJsonOutput.h"
 
 #include <cstdio>
 
@@ -19,10 +18,8 @@ void PvToolMessages::install()
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& message) {
         const PvDiagnosticCollector* collector = PvDiagnosticCollector::current();
         QString about = subject();
-        if (collector && !collector->file().isEmpty()) {
-            const QString relative = QDir::current().relativeFilePath(collector->file());
-            about = relative.startsWith(QLatin1String("..")) ? collector->file() : relative;
-        }
+        if (collector && !collector->file().isEmpty())
+            about = PvJsonOutput::displayPath(collector->file());
         const QByteArray text = (about.isEmpty() ? message : about + QStringLiteral(": ") + message).toLocal8Bit();
         const char* level = type == QtWarningMsg ? "warning" : type == QtCriticalMsg ? "critical" : type == QtFatalMsg ? "fatal" : type == QtInfoMsg ? "info" : "debug";
         std::fprintf(stderr, "pvproducts: %s: %s\n", level, text.constData());

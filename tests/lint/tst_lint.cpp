@@ -20,6 +20,14 @@ struct Run {
     QString err;
 };
 
+// An empty working directory: no fixture lies below it, wherever the checkout is, so the tool
+// names fixture files by absolute paths.
+QString outsideFixtures()
+{
+    static const QTemporaryDir dir;
+    return dir.path();
+}
+
 Run pvproducts(const QString& workingDirectory, const QStringList& arguments)
 {
     QProcess process;
@@ -272,7 +280,7 @@ void TestLint::usage()
     QFETCH(QStringList, arguments);
     QFETCH(int, exitCode);
     QFETCH(QString, firstLine);
-    const Run run = pvproducts(QDir::tempPath(), arguments);
+    const Run run = pvproducts(outsideFixtures(), arguments);
     QCOMPARE(run.exitCode, exitCode);
     if (exitCode == 2)
         QVERIFY2(run.err.startsWith(QLatin1String("pvproducts: ")), qPrintable(run.err));

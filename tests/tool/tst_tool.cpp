@@ -18,11 +18,18 @@ struct Run {
     QString err;
 };
 
+// An empty working directory: no fixture lies below it, wherever the checkout is, so the tool
+// names fixture files by absolute paths.
+QString outsideFixtures()
+{
+    static const QTemporaryDir dir;
+    return dir.path();
+}
+
 Run pvproducts(const QStringList& arguments)
 {
     QProcess process;
-    // Outside the fixtures, so that the tool names their files by absolute paths.
-    process.setWorkingDirectory(QDir::tempPath());
+    process.setWorkingDirectory(outsideFixtures());
     process.start(QStringLiteral(PV_TOOL), arguments);
     if (!process.waitForFinished(60000))
         return {};

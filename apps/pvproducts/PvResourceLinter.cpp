@@ -3,6 +3,7 @@
 
 #include "PvDiagnosticCollector.h"
 #include "PvDiagnostics.h"
+#include "PvThematicCategoryColorTable.h"
 #include "PvXMLLoader.h"
 
 #include <QColor>
@@ -21,10 +22,14 @@ void PvProductLinter::lintColors(const QFileInfo& file)
     addLibraryDiagnostics(collector.takeDiagnostics());
     if (loaded.isNull() || root.isNull())
         return;
-    QHash<QString, QDomElement> seen;
+    // The table says what it skips; only the attributes it never reads are the linter's to tell.
+    {
+        PvDiagnosticCollector library;
+        library.setFile(file.filePath());
+        (void)PvThematicCategoryColorTable(loaded);
+        addLibraryDiagnostics(library.takeDiagnostics());
+    }
     const QDomNodeList colors = root.elementsByTagName(QStringLiteral("color"));
-    if (colors.isEmpty())
-        report(root, PvDiagnostic::Error, QStringLiteral("no \"color\" element: no category has a colour"));
     for (int i = 0; i < colors.count(); ++i) {
         const QDomElement color = colors.at(i).toElement();
         const QDomNamedNodeMap attributes = color.attributes();
@@ -34,22 +39,6 @@ void PvProductLinter::lintColors(const QFileInfo& file)
                 report(color, PvDiagnostic::Error, QStringLiteral("unknown attribute %1 on \"color\" is ignored").arg(quoted(name)), name,
                        PvDiagnostics::closest(name, { QStringLiteral("name"), QStringLiteral("rgb") }), name);
         }
-        const QString name = color.attribute(QStringLiteral("name"));
-        if (name.isEmpty())
-            report(color, PvDiagnostic::Error, QStringLiteral("\"color\" has no \"name\"; the entry is of no category"));
-        else if (name != name.trimmed())
-            report(color, PvDiagnostic::Error, QStringLiteral("attribute \"name\": %1 has blanks around it, so it names no category").arg(quoted(name)),
-                   QStringLiteral("name"));
-        const QString rgb = color.attribute(QStringLiteral("rgb"));
-        if (!QColor::isValidColorName(rgb.trimmed()))
-            report(color, PvDiagnostic::Error, QStringLiteral("attribute \"rgb\": %1 does not read as a colour; the category has none").arg(quoted(rgb)),
-                   color.hasAttribute(QStringLiteral("rgb")) ? QStringLiteral("rgb") : QString());
-        const auto earlier = seen.constFind(name);
-        if (!name.isEmpty() && earlier != seen.cend())
-            report(color, PvDiagnostic::Error,
-                   QStringLiteral("colour of %1 again; it replaces the one on line %2").arg(quoted(name)).arg(m_positions->element(*earlier).first),
-                   QStringLiteral("name"));
-        seen.insert(name, color);
     }
 }
 

@@ -1,6 +1,8 @@
 #include "PvDiagnosticCollector.h"
 #include "PvProductTypeDescription.h"
 #include "PvProductTypeDescriptionReader.h"
+#include "PvThematicCategoryColorTable.h"
+#include "PvXMLLoader.h"
 
 #include <QDirIterator>
 #include <QFile>
@@ -149,11 +151,14 @@ void TestLint::mistakes()
     // One truth: whatever the loader reports on the directory, lint reports with the same words.
     if (!target.endsWith(QLatin1String(".xml")) && !target.endsWith(QLatin1Char('~')))
         return;
-    if (target.startsWith(QLatin1String("resources/colors")))
-        return;
     PvDiagnosticCollector collector;
-    const auto descriptions = PvProductTypeDescriptionReader(QDir(QFileInfo(root.filePath(target)).path())).readDir();
-    qDeleteAll(descriptions);
+    if (target.startsWith(QLatin1String("resources/colors"))) {
+        collector.setFile(root.filePath(target));
+        (void)PvThematicCategoryColorTable(PvXMLLoader::loadDocumentElement(QFileInfo(root.filePath(target))));
+    } else {
+        const auto descriptions = PvProductTypeDescriptionReader(QDir(QFileInfo(root.filePath(target)).path())).readDir();
+        qDeleteAll(descriptions);
+    }
     for (const PvDiagnostic& d : collector.diagnostics()) {
         const QString name = QDir(root.path()).relativeFilePath(d.file);
         const bool found = std::any_of(findings.cbegin(), findings.cend(), [&](const QJsonValue& v) {

@@ -4,12 +4,14 @@
 #include "PvDiagnosticCollector.h"
 #include "PvDiagnostics.h"
 #include "PvThematicCategoryColorTable.h"
+#include "PvThematicCategoryTranslationRegistry.h"
 #include "PvXMLLoader.h"
 
 #include <QColor>
 #include <QDomNamedNodeMap>
 #include <QHash>
 #include <QRegularExpression>
+#include <QtGlobal>
 
 using PvDiagnostics::quoted;
 
@@ -54,41 +56,13 @@ void PvProductLinter::lintTranslations(const QFileInfo& file)
         reportFile(PvDiagnostic::Error, QStringLiteral("the file name has no language code between underscores (like \"dlp-categories_en_.ts\"); it is never read"));
     if (loaded.isNull() || root.isNull())
         return;
-    if (root.tagName() != QLatin1String("TS")) {
-        report(root, PvDiagnostic::Error, QStringLiteral("the document element is %1, not \"TS\"; the file is rejected").arg(quoted(root.tagName())), QString(),
-               PvDiagnostics::closest(root.tagName(), { QStringLiteral("TS") }), root.tagName());
-        return;
-    }
-    if (root.attribute(QStringLiteral("language")).trimmed().isEmpty()) {
-        report(root, PvDiagnostic::Error, QStringLiteral("\"TS\" has no \"language\"; the file is rejected"));
-        return;
-    }
-    const QDomElement context = root.firstChildElement(QStringLiteral("context"));
-    if (context.isNull()) {
-        report(root, PvDiagnostic::Error, QStringLiteral("no \"context\" after \"TS\"; the file is rejected"));
-        return;
-    }
-    for (QDomElement other = context.nextSiblingElement(QStringLiteral("context")); !other.isNull(); other = other.nextSiblingElement(QStringLiteral("context")))
-        report(other, PvDiagnostic::Error, QStringLiteral("only the first \"context\" is read; this one is ignored"));
-    QHash<QString, QString> sourceOf;
-    for (QDomElement message = context.firstChildElement(QStringLiteral("message")); !message.isNull();
-         message = message.nextSiblingElement(QStringLiteral("message"))) {
-        const QDomElement source = message.firstChildElement(QStringLiteral("source"));
-        const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
-        if (source.isNull() || source.text().simplified().isEmpty()) {
-            report(message, PvDiagnostic::Error, QStringLiteral("\"message\" without \"source\" translates nothing"));
-            continue;
-        }
-        if (translation.text().isEmpty()) {
-            report(translation.isNull() ? message : translation, PvDiagnostic::Error,
-                   QStringLiteral("empty translation of %1 is skipped").arg(quoted(source.text().simplified())));
-            continue;
-        }
-        const QString earlier = sourceOf.value(translation.text());
-        if (!earlier.isEmpty() && earlier != source.text().simplified())
-            report(translation, PvDiagnostic::Warning,
-                   QStringLiteral("%1 and %2 both translate to %3 and become one category in this language")
-                       .arg(quoted(earlier), quoted(source.text().simplified()), quoted(translation.text())));
-        sourceOf.insert(translation.text(), source.text().simplified());
-    }
+    // The registry's reader says what it rejects or skips; its fixed warnings say the same again.
+    PvDiagnosticCollector library;
+    library.setFile(file.filePath());
+    const QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { });
+    QString localeName;
+    QHash<QString, QString> translations;
+    (void)PvThematicCategoryTranslationRegistry::readTranslations(loaded, &localeName, &translations);
+    qInstallMessageHandler(previous);
+    addLibraryDiagnostics(library.takeDiagnostics());
 }

@@ -7,7 +7,6 @@
 #include "PvThematicCategoryTranslationRegistry.h"
 #include "PvXMLLoader.h"
 
-#include <QColor>
 #include <QDomNamedNodeMap>
 #include <QHash>
 #include <QRegularExpression>

@@ -8,13 +8,14 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
+#include <iterator>
+#include <tuple>
+
 using PvJsonOutput::intArray;
 using PvJsonOutput::nameOf;
 
 namespace {
-// Redirects and templates are asked for page by page; products have far fewer pages.
-constexpr int probedPages = 1000;
-
 QString text(const QString& value)
 {
     return value;
@@ -40,45 +41,58 @@ QList<PvPageType> singlePageTypes()
 QJsonArray contentRedirects(const PvProductTypeDescription& d)
 {
     QJsonArray redirects;
-    for (int page = 0; page < probedPages;) {
-        const int target = d.contentDropRedirects().targetPage(page);
-        int last = page;
-        while (last + 1 < probedPages && target != page && d.contentDropRedirects().targetPage(last + 1) == target)
-            ++last;
-        if (target != page)
-            redirects.append(QJsonObject { { QStringLiteral("from"), last == page ? QString::number(page) : QStringLiteral("%1-%2").arg(page).arg(last) },
-                                           { QStringLiteral("to"), target } });
-        page = last + 1;
-    }
+    for (const PvContentDropRedirectList::Range& range : d.contentDropRedirects().ranges())
+        redirects.append(QJsonObject { { QStringLiteral("from"), range.first == range.last ? QString::number(range.first)
+                                                                                              : QStringLiteral("%1-%2").arg(range.first).arg(range.last) },
+                                       { QStringLiteral("to"), range.target } });
     return redirects;
 }
 
+// One object per page context, page number and scene page count, holding its three names.
 QJsonArray defaultTemplates(const PvProductTypeDescription& d)
 {
-    struct Type {
-        PvDefaultTemplateType type;
-        const char* name;
-    };
-    static const Type types[] = { { PvDefaultTemplateTypeBackground, "background" }, { PvDefaultTemplateTypeLayout, "layout" }, { PvDefaultTemplateTypeDesign, "design" } };
+    static const char* const typeNames[] = { "layout", "background", "design" };
     QJsonArray templates;
-    if (d.defaultTemplates().size() == 0)
-        return templates;
-    for (const PvPageType& pageType : singlePageTypes()) {
-        for (const PvPageAlignmentEnum alignment : PvPageAlignment(PvPageAlignmentEnum(0x7F)).splitToBitsSorted()) {
-            QJsonObject entry;
-            for (const Type& type : types) {
-                const QString name = d.findDefaultTemplate(PvDefaultTemplateKey(PvPageContext(pageType, alignment), type.type, -1, -1));
-                if (!name.isEmpty())
-                    entry.insert(QLatin1String(type.name), name);
-            }
-            if (entry.isEmpty())
-                continue;
-            entry.insert(QStringLiteral("pageType"), nameOf(pageType));
-            entry.insert(QStringLiteral("alignment"), PvPageAlignment(alignment).encodeCSV());
-            templates.append(entry);
-        }
+    QJsonObject entry;
+    PvDefaultTemplateKey group;
+    const auto flush = [&templates, &entry, &group]() {
+        if (entry.isEmpty())
+            return;
+        entry.insert(QStringLiteral("pageType"), nameOf(group.pageType()));
+        entry.insert(QStringLiteral("alignment"), group.pageAlignment().encodeCSV());
+        entry.insert(QStringLiteral("pageNr"), group.pageNumber());
+        entry.insert(QStringLiteral("scenePageCount"), group.scenePageCount());
+        templates.append(entry);
+        entry = QJsonObject();
+    };
+    // Entries come sorted with the template type between context and numbers: group by the rest.
+    const auto sameGroup = [](const PvDefaultTemplateKey& a, const PvDefaultTemplateKey& b) {
+        return a.pageContext() == b.pageContext() && a.pageNumber() == b.pageNumber() && a.scenePageCount() == b.scenePageCount();
+    };
+    QList<PvDefaultTemplateMap::Entry> entries = d.defaultTemplates().entries();
+    std::stable_sort(entries.begin(), entries.end(), [](const PvDefaultTemplateMap::Entry& a, const PvDefaultTemplateMap::Entry& b) {
+        return std::make_tuple(a.key.pageType().toUnderlying(), a.key.pageAlignment().toUnderlying(), a.key.scenePageCount(), a.key.pageNumber())
+            < std::make_tuple(b.key.pageType().toUnderlying(), b.key.pageAlignment().toUnderlying(), b.key.scenePageCount(), b.key.pageNumber());
+    });
+    for (const PvDefaultTemplateMap::Entry& e : entries) {
+        if (!sameGroup(e.key, group))
+            flush();
+        group = e.key;
+        const int type = int(e.key.defaultTemplateType());
+        if (!e.name.isEmpty() && type >= 0 && type < int(std::size(typeNames)))
+            entry.insert(QLatin1String(typeNames[type]), e.name);
     }
+    flush();
     return templates;
+}
+
+QJsonObject loopPictures(const PvSpiralConfig& spiral)
+{
+    QJsonObject pictures;
+    const QHash<QString, QString> images = spiral.loopImages();
+    for (auto it = images.cbegin(); it != images.cend(); ++it)
+        pictures.insert(it.key(), it.value());
+    return pictures;
 }
 
 QJsonArray jigs(const PvProductTypeDescription& d)
@@ -127,7 +141,8 @@ QJsonArray surroundings(const PvProductTypeDescription& d)
             object.insert(QStringLiteral("spiral"), QJsonObject { { QStringLiteral("count"), spiral.spiralCount() },
                                                                  { QStringLiteral("hookWidth"), spiral.hookWidth() },
                                                                  { QStringLiteral("hookHeight"), spiral.hookHeight() },
-                                                                 { QStringLiteral("loopPicture"), spiral.variant() } });
+                                                                 { QStringLiteral("loopPicture"), spiral.variant() },
+                                                                 { QStringLiteral("loopPictures"), loopPictures(spiral) } });
         if (s.calendarHoleConfig().hasHole())
             object.insert(QStringLiteral("hole"), QJsonObject { { QStringLiteral("diameter"), s.calendarHoleConfig().diameter() },
                                                                { QStringLiteral("distanceY"), s.calendarHoleConfig().distanceY() } });

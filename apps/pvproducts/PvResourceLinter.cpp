@@ -3,12 +3,14 @@
 
 #include "PvDiagnosticCollector.h"
 #include "PvDiagnostics.h"
+#include "PvThematicCategoryColorTable.h"
+#include "PvThematicCategoryTranslationRegistry.h"
 #include "PvXMLLoader.h"
 
-#include <QColor>
 #include <QDomNamedNodeMap>
 #include <QHash>
 #include <QRegularExpression>
+#include <QtGlobal>
 
 using PvDiagnostics::quoted;
 
@@ -21,10 +23,14 @@ void PvProductLinter::lintColors(const QFileInfo& file)
     addLibraryDiagnostics(collector.takeDiagnostics());
     if (loaded.isNull() || root.isNull())
         return;
-    QHash<QString, QDomElement> seen;
+    // The table says what it skips; only the attributes it never reads are the linter's to tell.
+    {
+        PvDiagnosticCollector library;
+        library.setFile(file.filePath());
+        (void)PvThematicCategoryColorTable(loaded);
+        addLibraryDiagnostics(library.takeDiagnostics());
+    }
     const QDomNodeList colors = root.elementsByTagName(QStringLiteral("color"));
-    if (colors.isEmpty())
-        report(root, PvDiagnostic::Error, QStringLiteral("no \"color\" element: no category has a colour"));
     for (int i = 0; i < colors.count(); ++i) {
         const QDomElement color = colors.at(i).toElement();
         const QDomNamedNodeMap attributes = color.attributes();
@@ -34,22 +40,6 @@ void PvProductLinter::lintColors(const QFileInfo& file)
                 report(color, PvDiagnostic::Error, QStringLiteral("unknown attribute %1 on \"color\" is ignored").arg(quoted(name)), name,
                        PvDiagnostics::closest(name, { QStringLiteral("name"), QStringLiteral("rgb") }), name);
         }
-        const QString name = color.attribute(QStringLiteral("name"));
-        if (name.isEmpty())
-            report(color, PvDiagnostic::Error, QStringLiteral("\"color\" has no \"name\"; the entry is of no category"));
-        else if (name != name.trimmed())
-            report(color, PvDiagnostic::Error, QStringLiteral("attribute \"name\": %1 has blanks around it, so it names no category").arg(quoted(name)),
-                   QStringLiteral("name"));
-        const QString rgb = color.attribute(QStringLiteral("rgb"));
-        if (!QColor::isValidColorName(rgb.trimmed()))
-            report(color, PvDiagnostic::Error, QStringLiteral("attribute \"rgb\": %1 does not read as a colour; the category has none").arg(quoted(rgb)),
-                   color.hasAttribute(QStringLiteral("rgb")) ? QStringLiteral("rgb") : QString());
-        const auto earlier = seen.constFind(name);
-        if (!name.isEmpty() && earlier != seen.cend())
-            report(color, PvDiagnostic::Error,
-                   QStringLiteral("colour of %1 again; it replaces the one on line %2").arg(quoted(name)).arg(m_positions->element(*earlier).first),
-                   QStringLiteral("name"));
-        seen.insert(name, color);
     }
 }
 
@@ -65,41 +55,13 @@ void PvProductLinter::lintTranslations(const QFileInfo& file)
         reportFile(PvDiagnostic::Error, QStringLiteral("the file name has no language code between underscores (like \"dlp-categories_en_.ts\"); it is never read"));
     if (loaded.isNull() || root.isNull())
         return;
-    if (root.tagName() != QLatin1String("TS")) {
-        report(root, PvDiagnostic::Error, QStringLiteral("the document element is %1, not \"TS\"; the file is rejected").arg(quoted(root.tagName())), QString(),
-               PvDiagnostics::closest(root.tagName(), { QStringLiteral("TS") }), root.tagName());
-        return;
-    }
-    if (root.attribute(QStringLiteral("language")).trimmed().isEmpty()) {
-        report(root, PvDiagnostic::Error, QStringLiteral("\"TS\" has no \"language\"; the file is rejected"));
-        return;
-    }
-    const QDomElement context = root.firstChildElement(QStringLiteral("context"));
-    if (context.isNull()) {
-        report(root, PvDiagnostic::Error, QStringLiteral("no \"context\" after \"TS\"; the file is rejected"));
-        return;
-    }
-    for (QDomElement other = context.nextSiblingElement(QStringLiteral("context")); !other.isNull(); other = other.nextSiblingElement(QStringLiteral("context")))
-        report(other, PvDiagnostic::Error, QStringLiteral("only the first \"context\" is read; this one is ignored"));
-    QHash<QString, QString> sourceOf;
-    for (QDomElement message = context.firstChildElement(QStringLiteral("message")); !message.isNull();
-         message = message.nextSiblingElement(QStringLiteral("message"))) {
-        const QDomElement source = message.firstChildElement(QStringLiteral("source"));
-        const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
-        if (source.isNull() || source.text().simplified().isEmpty()) {
-            report(message, PvDiagnostic::Error, QStringLiteral("\"message\" without \"source\" translates nothing"));
-            continue;
-        }
-        if (translation.text().isEmpty()) {
-            report(translation.isNull() ? message : translation, PvDiagnostic::Error,
-                   QStringLiteral("empty translation of %1 is skipped").arg(quoted(source.text().simplified())));
-            continue;
-        }
-        const QString earlier = sourceOf.value(translation.text());
-        if (!earlier.isEmpty() && earlier != source.text().simplified())
-            report(translation, PvDiagnostic::Warning,
-                   QStringLiteral("%1 and %2 both translate to %3 and become one category in this language")
-                       .arg(quoted(earlier), quoted(source.text().simplified()), quoted(translation.text())));
-        sourceOf.insert(translation.text(), source.text().simplified());
-    }
+    // The registry's reader says what it rejects or skips; its fixed warnings say the same again.
+    PvDiagnosticCollector library;
+    library.setFile(file.filePath());
+    const QtMessageHandler previous = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { });
+    QString localeName;
+    QHash<QString, QString> translations;
+    (void)PvThematicCategoryTranslationRegistry::readTranslations(loaded, &localeName, &translations);
+    qInstallMessageHandler(previous);
+    addLibraryDiagnostics(library.takeDiagnostics());
 }

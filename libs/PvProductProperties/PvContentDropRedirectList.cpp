@@ -5,6 +5,8 @@
 
 #include <QStringList>
 
+#include <iterator>
+
 namespace {
 // A product has a few hundred pages at most: a wider range is a typing error. Ranges no longer
 // cost memory per page, but files rely on the warning.
@@ -89,4 +91,20 @@ int PvContentDropRedirectList::targetPage(int page) const
 {
     const int target = targetAt(page);
     return target == noRedirect ? page : target;
+}
+
+QList<PvContentDropRedirectList::Range> PvContentDropRedirectList::ranges() const
+{
+    QList<Range> list;
+    for (auto it = m_runs.cbegin(); it != m_runs.cend(); ++it) {
+        const auto next = std::next(it);
+        // The last run always goes back to no redirect, so every redirected run has an end.
+        if (it.value() == noRedirect || next == m_runs.cend())
+            continue;
+        if (!list.isEmpty() && list.last().last + 1 == it.key() && list.last().target == it.value())
+            list.last().last = next.key() - 1;
+        else
+            list.append(Range { it.key(), next.key() - 1, it.value() });
+    }
+    return list;
 }

@@ -3,6 +3,7 @@
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
+#include <QList>
 #include <QMap>
 
 /*! Says that content dropped on one page lands on another page; read from "contentredirects". */
@@ -23,6 +24,16 @@ public:
 
     //! The page that content dropped on \a page goes to: its redirect target, or \a page itself.
     [[nodiscard]] int targetPage(int page) const;
+
+    //! A run of pages whose content goes to one target page.
+    struct Range
+    {
+        qint64 first = 0; //!< The first page of the run.
+        qint64 last = 0; //!< The last page of the run.
+        int target = 0; //!< The page their content goes to.
+    };
+    //! Every redirected run of pages, in page order; neighbouring runs with one target are one range.
+    [[nodiscard]] QList<Range> ranges() const;
 
 private:
     void read(const QDomElement& contentredirect);

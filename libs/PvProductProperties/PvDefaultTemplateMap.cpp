@@ -8,6 +8,9 @@
 
 #include <QStringList>
 
+#include <algorithm>
+#include <tuple>
+
 namespace {
 // The house background of pages whose default names none.
 const char* const houseBackground = "201";
@@ -99,4 +102,19 @@ QString PvDefaultTemplateMap::removeUmlauts(const QString& text)
     folded.replace(QStringLiteral(u"ü"), QStringLiteral("ue"), Qt::CaseInsensitive);
     folded.replace(QStringLiteral(u"ß"), QStringLiteral("ss"), Qt::CaseInsensitive);
     return folded;
+}
+
+QList<PvDefaultTemplateMap::Entry> PvDefaultTemplateMap::entries() const
+{
+    QList<Entry> list;
+    list.reserve(m_templates.size());
+    for (auto it = m_templates.cbegin(); it != m_templates.cend(); ++it)
+        list.append(Entry { it.key().key, it.value() });
+    // A hash has no order of its own: sort so that listings compare between runs.
+    const auto fields = [](const PvDefaultTemplateKey& key) {
+        return std::make_tuple(key.pageType().toUnderlying(), key.pageAlignment().toUnderlying(), int(key.defaultTemplateType()),
+                               key.scenePageCount(), key.pageNumber());
+    };
+    std::sort(list.begin(), list.end(), [&fields](const Entry& a, const Entry& b) { return fields(a.key) < fields(b.key); });
+    return list;
 }

@@ -5,6 +5,7 @@
 
 #include <QDomElement>
 #include <QHash>
+#include <QList>
 #include <QString>
 
 /*!
@@ -31,6 +32,14 @@ public:
     [[nodiscard]] QString findTemplate(const PvDefaultTemplateKey& key) const;
     //! The number of entries.
     [[nodiscard]] qsizetype size() const { return m_templates.size(); }
+    //! One entry: the key it is stored under and its template name.
+    struct Entry
+    {
+        PvDefaultTemplateKey key; //!< Page type, alignment, template type, page number and scene page count.
+        QString name; //!< The template's name, umlauts folded.
+    };
+    //! Every entry, sorted by page type, alignment, template type, scene page count and page number.
+    [[nodiscard]] QList<Entry> entries() const;
 
     //! Folds ä, ö, ü and ß, in either case, to "ae", "oe", "ue" and "ss".
     [[nodiscard]] static QString removeUmlauts(const QString& text);

@@ -51,6 +51,8 @@ public:
     [[nodiscard]] int hookHeight() const { return m_hookHeight; }
     //! The file name of the loop picture in the thumbnails directory.
     [[nodiscard]] QString variant() const { return m_variant; }
+    //! The loop pictures by wire colour ("loopImage" children: variant to imagePath).
+    [[nodiscard]] QHash<QString, QString> loopImages() const { return m_loopImages; }
 
     //! Compares count and hook size only; loop sizes, picture and colours do not count.
     bool operator==(const PvSpiralConfig& other) const;

@@ -3,12 +3,16 @@
 #include "PvBasisSettings.h"
 #include "PvDirectoryConfig.h"
 #include "PvLocaleAndTranslationManager.h"
+#include "PvDiagnosticCollector.h"
+#include "PvProductDiagnostics.h"
 #include "PvThematicCategory.h"
 #include "PvThematicCategorySet.h"
 #include "PvXMLLoader.h"
 
 #include <QDomDocument>
 #include <QtDebug>
+
+using PvDiagnostics::quoted;
 
 PvThematicCategoryTranslationRegistry::PvThematicCategoryTranslationRegistry()
     : PvXMLBasedRegistry(QStringLiteral("ts"), true)
@@ -42,36 +46,79 @@ bool PvThematicCategoryTranslationRegistry::loadDLPCategoryTSFiles()
 
 bool PvThematicCategoryTranslationRegistry::parseXML(const QFileInfo& file, bool /*reload*/)
 {
+    const PvDiagnosticFileScope scope(file.filePath());
     return parseXML(PvXMLLoader::loadDocumentElement(file));
 }
 
 bool PvThematicCategoryTranslationRegistry::parseXML(const QDomElement& root)
 {
+    QString localeName;
+    QHash<QString, QString> pairs;
+    if (!readTranslations(root, &localeName, &pairs))
+        return false;
+    addTranslations(localeName, pairs);
+    return true;
+}
+
+bool PvThematicCategoryTranslationRegistry::readTranslations(const QDomElement& root, QString* localeName, QHash<QString, QString>* translations)
+{
+    // A null root is a file that did not load, which the loader has reported already.
+    const bool listening = !root.isNull() && PvDiagnostics::isListening(pvCategoriesLog());
+    const auto report = [](const QDomNode& node, const QString& message, PvDiagnostic::Severity severity = PvDiagnostic::Error,
+                           const QString& suggestion = QString(), const QString& found = QString()) {
+        PvDiagnostics::report(pvCategoriesLog(), severity, node, message, QString(), suggestion, found);
+    };
     if (root.tagName() != QLatin1String("TS")) {
         qWarning("No TS element at beginning.");
+        if (listening)
+            report(root, QStringLiteral("the document element is %1, not \"TS\"; the file is rejected").arg(quoted(root.tagName())), PvDiagnostic::Error,
+                   PvDiagnostics::closest(root.tagName(), { QStringLiteral("TS") }), root.tagName());
         return false;
     }
     const QString language = root.attribute(QStringLiteral("language"));
     if (language.isEmpty()) {
         qWarning("No language attribute.");
+        if (listening)
+            report(root, QStringLiteral("\"TS\" has no \"language\"; the file is rejected"));
         return false;
     }
     // Only the first context counts; its name is not looked at.
-    const QDomElement context = root.firstChildElement(QStringLiteral("context"));
+    const QString contextTag = QStringLiteral("context");
+    const QDomElement context = root.firstChildElement(contextTag);
     if (context.isNull()) {
         qWarning("No contextElement element after TS.");
+        if (listening)
+            report(root, QStringLiteral("no \"context\" after \"TS\"; the file is rejected"));
         return false;
     }
-    QHash<QString, QString> pairs;
+    for (QDomElement other = context.nextSiblingElement(contextTag); listening && !other.isNull(); other = other.nextSiblingElement(contextTag))
+        report(other, QStringLiteral("only the first \"context\" is read; this one is ignored"));
+    QHash<QString, QString> sourceOf;
     for (QDomElement message = context.firstChildElement(QStringLiteral("message")); !message.isNull();
          message = message.nextSiblingElement(QStringLiteral("message"))) {
         const QDomElement source = message.firstChildElement(QStringLiteral("source"));
         const QDomElement translation = message.firstChildElement(QStringLiteral("translation"));
+        const QString sourceText = source.text().simplified();
+        if (listening) {
+            if (sourceText.isEmpty())
+                report(message, QStringLiteral("\"message\" without \"source\" translates nothing"));
+            else if (translation.text().isEmpty())
+                report(translation.isNull() ? message : translation, QStringLiteral("empty translation of %1 is skipped").arg(quoted(sourceText)));
+        }
         if (source.isNull() || translation.isNull() || translation.text().isEmpty())
             continue;
-        pairs.insert(source.text().simplified(), translation.text());
+        if (listening && !sourceText.isEmpty()) {
+            const QString earlier = sourceOf.value(translation.text());
+            if (!earlier.isEmpty() && earlier != sourceText)
+                report(translation,
+                       QStringLiteral("%1 and %2 both translate to %3 and become one category in this language")
+                           .arg(quoted(earlier), quoted(sourceText), quoted(translation.text())),
+                       PvDiagnostic::Warning);
+            sourceOf.insert(translation.text(), sourceText);
+        }
+        translations->insert(sourceText, translation.text());
     }
-    addTranslations(QLocale(language).name(), pairs);
+    *localeName = QLocale(language).name();
     return true;
 }
 

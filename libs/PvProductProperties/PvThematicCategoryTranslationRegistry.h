@@ -40,6 +40,11 @@ public:
     bool parseXML(const QFileInfo& file, bool reload) override;
     //! Reads one ".ts" document; false (with a warning) when it is not one.
     bool parseXML(const QDomElement& root);
+    /*!
+     * Reads one ".ts" document into \a localeName and \a translations without adding them;
+     * false (with a warning) when it is not one. Reports what it skips when someone listens.
+     */
+    static bool readTranslations(const QDomElement& root, QString* localeName, QHash<QString, QString>* translations);
     //! Merges \a translations into the table of \a localeName; a source given again replaces.
     void addTranslations(const QString& localeName, const QHash<QString, QString>& translations);
 

@@ -8,6 +8,8 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+
 namespace {
 QDomElement element(const QString& xml)
 {
@@ -171,6 +173,8 @@ void TestJigs::redirects_data()
     QTest::newRow("later overwrites") << "<contentredirect from='1-3' to='0'/><contentredirect from='3' to='5'/>" << 0 << pages << QList<int> { 0, 0, 0, 5, 4, 5 };
     QTest::newRow("middle piece ignored") << "<contentredirect from='1-x-2' to='4'/>" << 0 << pages << QList<int> { 0, 4, 4, 3, 4, 5 };
     QTest::newRow("to missing") << "<contentredirect from='2'/><contentredirect from='3' to='0'/>" << 1 << pages << QList<int> { 0, 1, 2, 0, 4, 5 };
+    QTest::newRow("neighbours with one target") << "<contentredirect from='1-2' to='0'/><contentredirect from='3' to='0'/>" << 0 << pages
+                                                << QList<int> { 0, 0, 0, 0, 4, 5 };
     QTest::newRow("leading minus") << "<contentredirect from='-4' to='1'/>" << 1 << pages << pages;
     QTest::newRow("ten million pages") << "<contentredirect from='0-9999999' to='1'/>" << 1 << pages << pages;
     QTest::newRow("widest allowed") << "<contentredirect from='1-100000' to='0'/>" << 0 << QList<int> { 0, 100000, 100001 } << QList<int> { 0, 0, 100001 };
@@ -194,6 +198,19 @@ void TestJigs::redirects()
     for (int page : pages)
         actual.append(list.targetPage(page));
     QCOMPARE(actual, targets);
+
+    // The listed ranges say the same: sorted, apart, and each page lands where targetPage() says.
+    const QList<PvContentDropRedirectList::Range> ranges = list.ranges();
+    for (int i = 0; i < ranges.size(); ++i) {
+        QVERIFY(ranges.at(i).first <= ranges.at(i).last);
+        QVERIFY(i == 0 || ranges.at(i - 1).last < ranges.at(i).first);
+    }
+    QList<int> listed;
+    for (int page : pages) {
+        const auto range = std::find_if(ranges.cbegin(), ranges.cend(), [page](const auto& r) { return r.first <= page && page <= r.last; });
+        listed.append(range == ranges.cend() ? page : range->target);
+    }
+    QCOMPARE(listed, targets);
 }
 
 QTEST_GUILESS_MAIN(TestJigs)

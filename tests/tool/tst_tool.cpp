@@ -57,6 +57,8 @@ private Q_SLOTS:
     void showJsonMatchesList();
     void listVerbose();
     void libraryWarningsNameTheirFile();
+    void showListsWhatTheFileHolds_data();
+    void showListsWhatTheFileHolds();
 };
 
 void TestTool::commands_data()
@@ -225,6 +227,64 @@ void TestTool::libraryWarningsNameTheirFile()
     const Run run = pvproducts({ QStringLiteral("--data"), root.path(), QStringLiteral("list") });
     QCOMPARE(run.exitCode, 0);
     QVERIFY2(run.err.contains(QStringLiteral("/products/redirect.xml: parse error")), qPrintable(run.err));
+}
+
+void TestTool::showListsWhatTheFileHolds_data()
+{
+    // Where a value lies in show's JSON: a top-level array, the index of an object in it, and a key.
+    QTest::addColumn<QString>("array");
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QJsonValue>("expected");
+    QTest::newRow("single redirect") << "contentRedirects" << 0 << "from" << QJsonValue(QStringLiteral("3"));
+    QTest::newRow("single redirect target") << "contentRedirects" << 0 << "to" << QJsonValue(1);
+    QTest::newRow("redirect beyond page 999") << "contentRedirects" << 1 << "from" << QJsonValue(QStringLiteral("1000-1500"));
+    QTest::newRow("wide redirect target") << "contentRedirects" << 1 << "to" << QJsonValue(2);
+    QTest::newRow("general template") << "defaultTemplates" << 0 << "layout" << QJsonValue(QStringLiteral("general"));
+    QTest::newRow("scene page count keyed") << "defaultTemplates" << 2 << "scenePageCount" << QJsonValue(2);
+    QTest::newRow("scene page count layout") << "defaultTemplates" << 2 << "layout" << QJsonValue(QStringLiteral("spread"));
+    QTest::newRow("page number keyed") << "defaultTemplates" << 1 << "pageNr" << QJsonValue(1200);
+    QTest::newRow("page number design") << "defaultTemplates" << 1 << "design" << QJsonValue(QStringLiteral("far"));
+    QTest::newRow("page number background") << "defaultTemplates" << 1 << "background" << QJsonValue(QStringLiteral("201"));
+}
+
+void TestTool::showListsWhatTheFileHolds()
+{
+    QFETCH(QString, array);
+    QFETCH(int, index);
+    QFETCH(QString, key);
+    QFETCH(QJsonValue, expected);
+
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkpath(QStringLiteral("products")));
+    QFile file(root.filePath(QStringLiteral("products/holds.xml")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("<products><product name=\"h\" class=\"calendar\" binding=\"spiral\"><pages>page</pages>"
+               "<contentredirects><contentredirect from=\"1000-1500\" to=\"2\"/><contentredirect from=\"3\" to=\"1\"/></contentredirects>"
+               "<surroundings><surrounding type=\"CALENDAR\" pageType=\"page\" alignment=\"left\"><spirals count=\"3\" variant=\"s.png\">"
+               "<loopImages><loopImage variant=\"gold\" imagePath=\"g.png\"/><loopImage variant=\"black\" imagePath=\"b.png\"/></loopImages>"
+               "</spirals></surrounding></surroundings>"
+               "<defaults><default pageType=\"page\" alignment=\"left\" layout=\"general\"/>"
+               "<default pageType=\"page\" alignment=\"left\" scenePageCount=\"2\" layout=\"spread\"/>"
+               "<default pageType=\"page\" alignment=\"left\" pageNr=\"1200\" design=\"far\"/></defaults></product></products>");
+    file.close();
+
+    const Run json = pvproducts({ QStringLiteral("--data"), root.path(), QStringLiteral("show"), QStringLiteral("h"), QStringLiteral("--json") });
+    QCOMPARE(json.exitCode, 0);
+    const QJsonObject shown = QJsonDocument::fromJson(json.out.toUtf8()).object();
+    const QJsonArray list = shown.value(array).toArray();
+    QVERIFY2(index < list.size(), qPrintable(json.out));
+    QCOMPARE(list.at(index).toObject().value(key), expected);
+    const QJsonObject pictures = shown.value(QStringLiteral("surroundings")).toArray().at(0).toObject().value(QStringLiteral("spiral")).toObject().value(QStringLiteral("loopPictures")).toObject();
+    QCOMPARE(pictures, (QJsonObject { { QStringLiteral("gold"), QStringLiteral("g.png") }, { QStringLiteral("black"), QStringLiteral("b.png") } }));
+
+    // The text form prints the same values.
+    const Run text = pvproducts({ QStringLiteral("--data"), root.path(), QStringLiteral("show"), QStringLiteral("h") });
+    QCOMPARE(text.exitCode, 0);
+    const QString value = expected.isString() ? expected.toString() : QString::number(expected.toInt());
+    const QString line = QStringLiteral("    %1: %2").arg(key, value);
+    QVERIFY2(text.out.split(QLatin1Char('\n')).contains(line), qPrintable(line + QStringLiteral(" missing in:\n") + text.out));
+    QVERIFY(text.out.contains(QLatin1String("        gold: g.png")));
 }
 
 QTEST_GUILESS_MAIN(TestTool)

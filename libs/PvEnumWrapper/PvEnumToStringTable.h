@@ -4,6 +4,9 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QStringTokenizer>
+#include <QStringView>
+#include <QVarLengthArray>
 
 #include <initializer_list>
 #include <optional>
@@ -68,9 +71,22 @@ public:
     }
 
     //! The value of \a text, ignoring case and surrounding blanks; none for an unknown text.
-    [[nodiscard]] std::optional<T> decode(const QString& text) const
+    [[nodiscard]] std::optional<T> decode(QStringView text) const
     {
-        const auto it = stringToEnum.constFind(text.trimmed().toLower());
+        text = text.trimmed();
+        // Product files hold thousands of these names: lower-case short ASCII names on the
+        // stack, and copy only what needs Unicode case folding.
+        constexpr qsizetype shortName = 64;
+        QVarLengthArray<char16_t, shortName> folded;
+        bool ascii = text.size() <= shortName;
+        for (qsizetype i = 0; ascii && i < text.size(); ++i) {
+            const char16_t c = text.at(i).unicode();
+            ascii = c < 0x80;
+            folded.append(c >= u'A' && c <= u'Z' ? char16_t(c + (u'a' - u'A')) : c);
+        }
+        const QString key = ascii ? QString::fromRawData(reinterpret_cast<const QChar*>(folded.constData()), folded.size())
+                                  : text.toString().toLower();
+        const auto it = stringToEnum.constFind(key);
         if (it == stringToEnum.cend())
             return std::nullopt;
         return *it;
@@ -78,11 +94,10 @@ public:
 
     // Empty pieces are kept: they decode to unknownValue like any unknown text.
     //! The values of the comma-separated \a text OR-ed together; an unknown part gives unknownValue.
-    [[nodiscard]] T decodeCSV(const QString& text) const
+    [[nodiscard]] T decodeCSV(QStringView text) const
     {
         Underlying result = 0;
-        const QStringList pieces = text.split(QLatin1Char(','));
-        for (const QString& piece : pieces)
+        for (const QStringView piece : text.tokenize(u','))
             result |= static_cast<Underlying>(decode(piece).value_or(unknownValue));
         return static_cast<T>(result);
     }

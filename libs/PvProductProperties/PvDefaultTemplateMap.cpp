@@ -7,6 +7,7 @@
 #include "PvXMLParser.h"
 
 #include <QStringList>
+#include <QtAlgorithms>
 
 #include <algorithm>
 #include <tuple>
@@ -41,6 +42,49 @@ void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
     }
 }
 
+bool PvDefaultTemplateMap::Rule::covers(const PvDefaultTemplateKey& key) const
+{
+    const quint32 alignment = key.pageAlignment().toUnderlying();
+    const int type = key.defaultTemplateType();
+    return type >= PvDefaultTemplateTypeLayout && type <= PvDefaultTemplateTypeDesign && key.pageNumber() == pageNumber
+        && key.scenePageCount() == scenePageCount && (alignments & alignment) != 0 && (alignment & (alignment - 1)) == 0
+        && pageTypes.contains(key.pageType());
+}
+
+qsizetype PvDefaultTemplateMap::Rule::entryCount() const
+{
+    return pageTypes.size() * qPopulationCount(alignments) * 3;
+}
+
+template <typename Store>
+bool PvDefaultTemplateMap::forEachEntry(const Rule& rule, Store&& store)
+{
+    bool complete = true;
+    const QList<PvPageAlignmentEnum> alignments = pvSplitEnumToBits(PvPageAlignmentEnum(rule.alignments));
+    for (const PvPageType& pageType : rule.pageTypes) {
+        for (const PvPageAlignmentEnum alignment : alignments) {
+            const PvPageContext context(pageType, alignment);
+            for (const auto type : { PvDefaultTemplateTypeLayout, PvDefaultTemplateTypeBackground, PvDefaultTemplateTypeDesign })
+                complete &= store(PvDefaultTemplateKey(context, type, rule.pageNumber, rule.scenePageCount), rule.names[type]);
+        }
+    }
+    return complete;
+}
+
+QHash<PvDefaultTemplateMap::StoredKey, QString> PvDefaultTemplateMap::expanded() const
+{
+    if (m_expanded)
+        return m_templates;
+    QHash<StoredKey, QString> entries;
+    for (const Rule& rule : m_rules) {
+        forEachEntry(rule, [&entries](const PvDefaultTemplateKey& key, const QString& name) {
+            entries.insert({ key }, name);
+            return true;
+        });
+    }
+    return entries;
+}
+
 bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString& name)
 {
     if (m_templates.size() >= maximumEntries && !m_templates.contains({ key }))
@@ -51,51 +95,77 @@ bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString&
 
 bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
-    const PvPageTypeList pageTypes(PvXMLParser::attribute(entry, QStringLiteral("pageType")));
+    Rule rule;
+    rule.pageTypes = PvPageTypeList(PvXMLParser::attribute(entry, QStringLiteral("pageType")));
     if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
     PvProductDiagnostics::checkEnum<PvPageAlignment>(entry, QStringLiteral("alignment"), "alignment");
-    const QList<PvPageAlignmentEnum> alignments =
-        PvPageAlignment(PvXMLParser::attribute(entry, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle")))
-            .splitToBitsSorted();
-    const int pageNumber = PvXMLParser::intAttribute(entry, QStringLiteral("pageNr"), -1);
-    const int scenePageCount = PvXMLParser::intAttribute(entry, QStringLiteral("scenePageCount"), -1);
+    const PvPageAlignment alignments(PvXMLParser::attribute(entry, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle")));
+    for (const PvPageAlignmentEnum bit : alignments.splitToBitsSorted())
+        rule.alignments |= bit;
+    rule.pageNumber = PvXMLParser::intAttribute(entry, QStringLiteral("pageNr"), -1);
+    rule.scenePageCount = PvXMLParser::intAttribute(entry, QStringLiteral("scenePageCount"), -1);
 
     const QStringList templates = PvXMLParser::attribute(entry, QStringLiteral("templates")).split(QLatin1Char(','), Qt::SkipEmptyParts);
     const QString layoutDefault = templates.size() == 2 ? templates.at(1) : QString();
     const QString backgroundDefault = templates.isEmpty() ? QString::fromLatin1(houseBackground) : templates.first();
-    const QString layout = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());
-    const QString background = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
-    const QString design = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design")));
+    rule.names[PvDefaultTemplateTypeLayout] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());
+    rule.names[PvDefaultTemplateTypeBackground] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
+    rule.names[PvDefaultTemplateTypeDesign] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design")));
 
-    bool complete = true;
-    for (const PvPageType& pageType : pageTypes) {
-        for (const PvPageAlignmentEnum alignment : alignments) {
-            const PvPageContext context(pageType, alignment);
-            complete &= store(PvDefaultTemplateKey(context, PvDefaultTemplateTypeLayout, pageNumber, scenePageCount), layout);
-            complete &= store(PvDefaultTemplateKey(context, PvDefaultTemplateTypeBackground, pageNumber, scenePageCount), background);
-            complete &= store(PvDefaultTemplateKey(context, PvDefaultTemplateTypeDesign, pageNumber, scenePageCount), design);
-        }
+    const qsizetype entries = rule.entryCount();
+    if (entries == 0)
+        return true;
+    if (!m_expanded && m_ruleEntries + entries <= maximumEntries) {
+        m_ruleEntries += entries;
+        m_rules.append(std::move(rule));
+        return true;
     }
-    return complete;
+    // From here on the bound decides key by key which entries get in.
+    if (!m_expanded) {
+        m_templates = expanded();
+        m_rules.clear();
+        m_expanded = true;
+    }
+    return forEachEntry(rule, [this](const PvDefaultTemplateKey& key, const QString& name) { return store(key, name); });
+}
+
+QString PvDefaultTemplateMap::value(const PvDefaultTemplateKey& key) const
+{
+    if (m_expanded)
+        return m_templates.value({ key });
+    // The last rule naming the key wins, as a later entry replaces an earlier one.
+    for (auto rule = m_rules.crbegin(); rule != m_rules.crend(); ++rule) {
+        if (rule->covers(key))
+            return rule->names[key.defaultTemplateType()];
+    }
+    return QString();
+}
+
+qsizetype PvDefaultTemplateMap::size() const
+{
+    return expanded().size();
 }
 
 QString PvDefaultTemplateMap::findTemplate(const PvDefaultTemplateKey& key) const
 {
-    const QString exact = m_templates.value({ key });
+    const QString exact = value(key);
     if (!exact.isEmpty())
         return exact;
     if (key.scenePageCount() != -1) {
-        const QString forScene = m_templates.value({ key.generalized(key.scenePageCount()) });
+        const QString forScene = value(key.generalized(key.scenePageCount()));
         if (!forScene.isEmpty())
             return forScene;
     }
-    return m_templates.value({ key.generalized(-1) });
+    return value(key.generalized(-1));
 }
 
 QString PvDefaultTemplateMap::removeUmlauts(const QString& text)
 {
+    // Most names are plain ASCII, in which none of the letters can occur.
+    if (std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; }))
+        return text;
     QString folded = text;
     folded.replace(QStringLiteral(u"ä"), QStringLiteral("ae"), Qt::CaseInsensitive);
     folded.replace(QStringLiteral(u"ö"), QStringLiteral("oe"), Qt::CaseInsensitive);
@@ -106,9 +176,10 @@ QString PvDefaultTemplateMap::removeUmlauts(const QString& text)
 
 QList<PvDefaultTemplateMap::Entry> PvDefaultTemplateMap::entries() const
 {
+    const QHash<StoredKey, QString> templates = expanded();
     QList<Entry> list;
-    list.reserve(m_templates.size());
-    for (auto it = m_templates.cbegin(); it != m_templates.cend(); ++it)
+    list.reserve(templates.size());
+    for (auto it = templates.cbegin(); it != templates.cend(); ++it)
         list.append(Entry { it.key().key, it.value() });
     // A hash has no order of its own: sort so that listings compare between runs.
     const auto fields = [](const PvDefaultTemplateKey& key) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PvDefaultTemplateKey.h"
+#include "PvPageTypeList.h"
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
@@ -31,7 +32,7 @@ public:
      */
     [[nodiscard]] QString findTemplate(const PvDefaultTemplateKey& key) const;
     //! The number of entries.
-    [[nodiscard]] qsizetype size() const { return m_templates.size(); }
+    [[nodiscard]] qsizetype size() const;
     //! One entry: the key it is stored under and its template name.
     struct Entry
     {
@@ -45,12 +46,19 @@ public:
     [[nodiscard]] static QString removeUmlauts(const QString& text);
 
 private:
-    bool applyDefault(const QDomElement& entry);
-    bool store(const PvDefaultTemplateKey& key, const QString& name);
-
-    // Stored under a hash of every field: the key's own hash leaves out page number and scene
-    // page count, so a file with many numbered pages would put them all in one bucket and
-    // make reading it quadratic.
+    // One "default" element as written. It stands for a template of each kind for every
+    // page type and alignment it names; kept as written because expanding it costs a hash
+    // entry per page type, alignment and kind, five times the file's own size in memory.
+    struct Rule
+    {
+        PvPageTypeList pageTypes;
+        quint32 alignments = 0; // the single alignment bits it names
+        int pageNumber = -1;
+        int scenePageCount = -1;
+        QString names[3]; // by PvDefaultTemplateType
+        [[nodiscard]] bool covers(const PvDefaultTemplateKey& key) const;
+        [[nodiscard]] qsizetype entryCount() const;
+    };
     struct StoredKey
     {
         PvDefaultTemplateKey key;
@@ -60,6 +68,18 @@ private:
             return qHashMulti(seed, qHash(stored.key), stored.key.pageNumber(), stored.key.scenePageCount());
         }
     };
+    template <typename Store>
+    static bool forEachEntry(const Rule& rule, Store&& store);
 
+    bool applyDefault(const QDomElement& entry);
+    [[nodiscard]] QHash<StoredKey, QString> expanded() const;
+    bool store(const PvDefaultTemplateKey& key, const QString& name);
+    [[nodiscard]] QString value(const PvDefaultTemplateKey& key) const;
+
+    QList<Rule> m_rules;
+    qsizetype m_ruleEntries = 0; // entries of m_rules, repeated keys counted again
+    // Only once the rules could make more entries than the bound allows: the entries as the
+    // bound lets them in, key by key, and no rules any more.
     QHash<StoredKey, QString> m_templates;
+    bool m_expanded = false;
 };

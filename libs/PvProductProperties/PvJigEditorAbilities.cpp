@@ -4,7 +4,7 @@
 
 #include "PvXMLParser.h"
 
-#include <QHash>
+#include <QMap>
 #include <QSharedData>
 
 #include <tuple>
@@ -16,11 +16,12 @@ public:
     bool rotatable = false;
     bool fullOnEachPage = true;
     bool requiresExactArticle = false;
-    QHash<PvPageTypeEnum, QStringList> categories;
+    // A few page types each: a map costs a node each, a hash a table for dozens from the start.
+    QMap<PvPageTypeEnum, QStringList> categories;
 };
 
 namespace {
-void readCategories(const QDomElement& element, QHash<PvPageTypeEnum, QStringList>& categories)
+void readCategories(const QDomElement& element, QMap<PvPageTypeEnum, QStringList>& categories)
 {
     const PvPageType pageType(PvXMLParser::attribute(element, QStringLiteral("pageType")));
     // Blanks around names are kept: they are part of the category names as written.

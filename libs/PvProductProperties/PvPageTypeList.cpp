@@ -8,10 +8,10 @@ PvPageTypeList::PvPageTypeList() = default;
 
 PvPageTypeList::PvPageTypeList(const QString& text)
 {
-    const QStringList parts = text.split(QLatin1Char(','), Qt::KeepEmptyParts);
-    reserve(parts.size());
-    for (const QString& part : parts)
-        append(PvPageType(part.trimmed()));
+    const auto* table = PvPageType().enumToStringTable();
+    reserve(text.count(QLatin1Char(',')) + 1);
+    for (const QStringView part : QStringView(text).tokenize(u','))
+        append(PvPageType(table->decodeCSV(part)));
 }
 
 PvPageTypeList::PvPageTypeList(std::initializer_list<PvPageType> types)

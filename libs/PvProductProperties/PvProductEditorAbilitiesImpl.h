@@ -8,7 +8,7 @@
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
-#include <QHash>
+#include <QMap>
 #include <QSharedData>
 
 /*! The shared data of PvProductEditorAbilities. */
@@ -29,7 +29,8 @@ public:
     int editorStartPage = 0;
     PvDateRangeConstraint dateRangeConstraint;
     bool showChangeBaseDesignButton = false;
-    QHash<PvJigType, PvJigEditorAbilities> jigs;
+    // A handful of entries: a map costs a node each, a hash a table for dozens from the start.
+    QMap<PvJigType, PvJigEditorAbilities> jigs;
 
 private:
     void readJigs(const QDomElement& jigsElement);

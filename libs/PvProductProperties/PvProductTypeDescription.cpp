@@ -13,9 +13,9 @@
 namespace {
 constexpr quint32 alignmentSpineMask = 0xF03E1;
 
-QDomElement child(const QDomElement& element, const char* name)
+QDomElement child(const QDomElement& element, const QString& name)
 {
-    return element.firstChildElement(QString::fromLatin1(name));
+    return element.firstChildElement(name);
 }
 
 // The longest page list pageTypes() builds. The thickest products have a few hundred pages;
@@ -66,10 +66,10 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     initVariants(product);
     initPages(product);
     initPageNumbering(product);
-    m_extraProductionContents = PvProductionExtraPageGroupList(child(product, "extra_production_pages"));
+    m_extraProductionContents = PvProductionExtraPageGroupList(child(product, QStringLiteral("extra_production_pages")));
     m_foldSafetyMargin = decodeFoldSafetyMargin(product);
     initReplacement(product);
-    m_editorAbilities = PvProductEditorAbilities(child(product, "editorAbilities"));
+    m_editorAbilities = PvProductEditorAbilities(child(product, QStringLiteral("editorAbilities")));
     initPricListCategories(product);
     initbarcodeDefinitions(product);
     initPreview3D(product);
@@ -115,11 +115,11 @@ void PvProductTypeDescription::initLayout(const QDomElement& product)
 
 void PvProductTypeDescription::initRedirectsAndDefaults(const QDomElement& product)
 {
-    m_tiltRedirects = PvPageTiltRedirectList(child(product, "rotationredirects"));
-    m_contentDropRedirects = PvContentDropRedirectList(child(product, "contentredirects"));
-    m_defaultTemplates = PvDefaultTemplateMap(child(product, "defaults"));
+    m_tiltRedirects = PvPageTiltRedirectList(child(product, QStringLiteral("rotationredirects")));
+    m_contentDropRedirects = PvContentDropRedirectList(child(product, QStringLiteral("contentredirects")));
+    m_defaultTemplates = PvDefaultTemplateMap(child(product, QStringLiteral("defaults")));
     // Deliberately 270 when the product says nothing about tilt.
-    m_tiltAngle = PvXMLParser::readAngle(child(product, "tilt"), QStringLiteral("angle"), 270);
+    m_tiltAngle = PvXMLParser::readAngle(child(product, QStringLiteral("tilt")), QStringLiteral("angle"), 270);
 }
 
 void PvProductTypeDescription::initVariants(const QDomElement& product)
@@ -129,12 +129,13 @@ void PvProductTypeDescription::initVariants(const QDomElement& product)
 
 void PvProductTypeDescription::initPages(const QDomElement& product)
 {
-    m_productionNumbering = decodeIntList(child(product, "productionnumbering"));
-    m_pagesWithContent = decodeIntList(child(product, "pageswithcontent"));
+    m_productionNumbering = decodeIntList(child(product, QStringLiteral("productionnumbering")));
+    m_pagesWithContent = decodeIntList(child(product, QStringLiteral("pageswithcontent")));
     // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
     // pageTypes(n) warn about the product.
-    m_pageTypes = PvPageTypeList(child(product, "pages").text());
-    PvProductDiagnostics::checkEnum<PvPageType>(child(product, "pages"), QString(), "page type", true);
+    const QDomElement pagesElement = child(product, QStringLiteral("pages"));
+    m_pageTypes = PvPageTypeList(pagesElement.text());
+    PvProductDiagnostics::checkEnum<PvPageType>(pagesElement, QString(), "page type", true);
 
     const auto isSpine = [](const PvPageType& type) { return type == PvPageTypeSpine; };
     const auto isJacket = [](const PvPageType& type) { return type == PvPageTypeJacket; };
@@ -146,12 +147,12 @@ void PvProductTypeDescription::initPages(const QDomElement& product)
 
 void PvProductTypeDescription::initPageNumbering(const QDomElement& product)
 {
-    const QDomElement config = child(product, "pageNumberConfig");
-    const QDomElement margin = child(config, "margin");
+    const QDomElement config = child(product, QStringLiteral("pageNumberConfig"));
+    const QDomElement margin = child(config, QStringLiteral("margin"));
     const PvDistanceUnit unit(PvTenthMillimetre);
     m_pageNumberVerticalIndent = PvXMLParser::readDistance(margin, QStringLiteral("verticalMargin"), 50.0, unit);
     m_pageNumberHorizontalIndent = PvXMLParser::readDistance(margin, QStringLiteral("horizontalMargin"), 50.0, unit);
-    m_pageNumberFontSize = PvXMLParser::intAttribute(child(config, "font"), QStringLiteral("fontSize"), 24);
+    m_pageNumberFontSize = PvXMLParser::intAttribute(child(config, QStringLiteral("font")), QStringLiteral("fontSize"), 24);
 }
 
 void PvProductTypeDescription::initReplacement(const QDomElement& product)
@@ -163,14 +164,14 @@ void PvProductTypeDescription::initReplacement(const QDomElement& product)
 
 void PvProductTypeDescription::initPricListCategories(const QDomElement& product)
 {
-    const QDomElement category = child(child(product, "pricelist"), "category");
+    const QDomElement category = child(child(product, QStringLiteral("pricelist")), QStringLiteral("category"));
     if (!category.isNull())
         m_priceListCategory = category.text();
 }
 
 void PvProductTypeDescription::initbarcodeDefinitions(const QDomElement& product)
 {
-    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(child(product, "barcodes"), PvDistanceUnit(PvTenthMillimetre));
+    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(child(product, QStringLiteral("barcodes")), PvDistanceUnit(PvTenthMillimetre));
 }
 
 void PvProductTypeDescription::initPreview3D(const QDomElement& product)

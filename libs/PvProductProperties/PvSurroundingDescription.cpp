@@ -86,8 +86,11 @@ PvSurroundingDescription::PvSurroundingDescription()
 }
 
 PvSurroundingDescription::PvSurroundingDescription(const PvProductType& productType, const QDomElement& element)
-    : PvSurroundingDescription(productType, element, element.attributes())
+    : d(new PvSurroundingDescriptionImpl)
 {
+    d->productType = productType;
+    d->readAttributes(element);
+    d->readChildren(element);
 }
 
 PvSurroundingDescription::PvSurroundingDescription(const PvProductType& productType, const QDomElement& element, const QDomNamedNodeMap& attributes)

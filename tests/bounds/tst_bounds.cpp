@@ -464,7 +464,15 @@ private Q_SLOTS:
                 xml += QStringLiteral("<default pageType=\"spine,left,right,page,flyleaf,cover_back,cover,cover_front,month,opening\" "
                                       "alignment=\"left,right,center,spread,top,bottom,middle\" pageNr=\"%1\" background=\"b\"/>").arg(i);
             return product(QString(), QStringLiteral("<defaults>%1</defaults>").arg(xml));
-        }) << 16;
+        }) << 2;
+        // Past the 20000-entry bound the defaults are stored key by key: 1800 entries each.
+        QTest::newRow("default templates beyond the bound") << Generator([](int n) {
+            const QString pageTypes = QStringList(100, QStringLiteral("page")).join(QLatin1Char(','));
+            QString xml;
+            for (int i = 0; i < n; ++i)
+                xml += QStringLiteral("<default pageType=\"%1\" alignment=\"left,right,center,top,bottom,middle\" pageNr=\"%2\"/>").arg(pageTypes).arg(i);
+            return product(QString(), QStringLiteral("<defaults>%1</defaults>").arg(xml));
+        }) << 12;
         QTest::newRow("surroundings with spirals") << Generator([](int n) {
             return product(QString(), QStringLiteral("<surroundings>%1</surroundings>")
                                           .arg(QString(QStringLiteral("<surrounding><spirals count=\"2147483647\" loopHeight=\"2147483647\"/><hole diameter=\"9\"/></surrounding>")).repeated(n)));

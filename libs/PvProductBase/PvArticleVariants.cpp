@@ -5,19 +5,18 @@
 
 PvArticleVariants::PvArticleVariants(const QString& text)
 {
-    const QStringList parts = text.split(QLatin1Char(','));
-    for (const QString& part : parts) {
-        const QString id = part.trimmed();
+    for (const QStringView part : QStringView(text).tokenize(u',')) {
+        const QStringView id = part.trimmed();
         if (!id.isEmpty())
-            m_ids.insert(id);
+            m_ids.append(id.toString());
     }
+    m_ids.sort();
+    m_ids.removeDuplicates();
 }
 
 QString PvArticleVariants::toString() const
 {
-    QStringList sorted(m_ids.cbegin(), m_ids.cend());
-    sorted.sort();
-    return sorted.join(QLatin1Char(','));
+    return m_ids.join(QLatin1Char(','));
 }
 
 QDebug operator<<(QDebug debug, const PvArticleVariants& variants)

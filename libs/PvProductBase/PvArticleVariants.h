@@ -3,6 +3,7 @@
 #include "pvproductbase_export.h"
 
 #include <QSet>
+#include <QStringList>
 #include <QString>
 
 class QDebug;
@@ -16,7 +17,7 @@ public:
     explicit PvArticleVariants(const QString& text);
 
     [[nodiscard]] bool isValid() const { return !m_ids.isEmpty(); }
-    [[nodiscard]] QSet<QString> ids() const { return m_ids; }
+    [[nodiscard]] QSet<QString> ids() const { return QSet<QString>(m_ids.cbegin(), m_ids.cend()); }
     //! The identifiers sorted and joined by ",".
     [[nodiscard]] QString toString() const;
 
@@ -24,7 +25,9 @@ public:
     friend bool operator!=(const PvArticleVariants& a, const PvArticleVariants& b) { return a.m_ids != b.m_ids; }
 
 private:
-    QSet<QString> m_ids;
+    // Sorted and without repeats, so that equal sets compare equal. A list: most hold one
+    // identifier, and a set takes a table for dozens from the first.
+    QStringList m_ids;
 };
 
 PVPRODUCTBASE_EXPORT QDebug operator<<(QDebug debug, const PvArticleVariants& variants);

@@ -12,7 +12,6 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPainter>
-#include <QRegularExpression>
 #include <QTransform>
 #include <QtNumeric>
 
@@ -102,8 +101,15 @@ bool PvSpiralConfig::isPicturePathAllowed(const QString& path)
     if (path.startsWith(QLatin1Char('/')) || path.startsWith(QLatin1Char('\\')) || path.startsWith(QLatin1Char(':'))
         || QDir::isAbsolutePath(path) || (path.size() > 1 && path.at(1) == QLatin1Char(':')))
         return false;
-    static const QRegularExpression separators(QStringLiteral("[/\\\\]"));
-    return !path.split(separators).contains(QStringLiteral(".."));
+    qsizetype start = 0;
+    for (qsizetype i = 0; i <= path.size(); ++i) {
+        if (i == path.size() || path.at(i) == QLatin1Char('/') || path.at(i) == QLatin1Char('\\')) {
+            if (QStringView(path).mid(start, i - start) == QLatin1String(".."))
+                return false;
+            start = i + 1;
+        }
+    }
+    return true;
 }
 
 PvSpiralConfig::PvSpiralConfig(const PvSpiralConfig& other) = default;
@@ -121,6 +127,15 @@ void PvSpiralConfig::readLoopImages(const QDomElement& element)
         if (!colour.isEmpty() && !file.isEmpty())
             m_loopImages.insert(colour, file);
     }
+}
+
+QHash<QString, QString> PvSpiralConfig::loopImages() const
+{
+    QHash<QString, QString> images;
+    images.reserve(m_loopImages.size());
+    for (auto it = m_loopImages.cbegin(); it != m_loopImages.cend(); ++it)
+        images.insert(it.key(), it.value());
+    return images;
 }
 
 bool PvSpiralConfig::operator==(const PvSpiralConfig& other) const

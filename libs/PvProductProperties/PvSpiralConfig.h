@@ -5,6 +5,7 @@
 #include <QDomElement>
 #include <QHash>
 #include <QImage>
+#include <QMap>
 #include <QSize>
 #include <QString>
 
@@ -52,7 +53,7 @@ public:
     //! The file name of the loop picture in the thumbnails directory.
     [[nodiscard]] QString variant() const { return m_variant; }
     //! The loop pictures by wire colour ("loopImage" children: variant to imagePath).
-    [[nodiscard]] QHash<QString, QString> loopImages() const { return m_loopImages; }
+    [[nodiscard]] QHash<QString, QString> loopImages() const;
 
     //! Compares count and hook size only; loop sizes, picture and colours do not count.
     bool operator==(const PvSpiralConfig& other) const;
@@ -104,5 +105,6 @@ private:
     int m_loopWidth = 0;
     int m_loopDistance = 0;
     QString m_variant;
-    QHash<QString, QString> m_loopImages;
+    // A few colours at most: a map costs a node each, a hash a table for dozens from the first.
+    QMap<QString, QString> m_loopImages;
 };

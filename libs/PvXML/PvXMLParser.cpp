@@ -2,6 +2,10 @@
 
 #include "PvDiagnostics.h"
 
+#include <QDomAttr>
+#include <QStringTokenizer>
+#include <QStringView>
+
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -17,12 +21,57 @@ void reportDefault(const QDomElement& element, const QString& name, const QStrin
                               name);
 }
 
+// Coordinates are whole numbers almost always; those are read here, exactly as toDouble()
+// would read them, and everything else by toDouble().
+std::optional<double> plainInteger(QStringView text)
+{
+    const bool negative = text.startsWith(u'-');
+    const QStringView digits = negative || text.startsWith(u'+') ? text.mid(1) : text;
+    if (digits.isEmpty() || digits.size() > 15)
+        return std::nullopt;
+    qint64 value = 0;
+    for (const QChar c : digits) {
+        if (c < u'0' || c > u'9')
+            return std::nullopt;
+        value = value * 10 + (c.unicode() - u'0');
+    }
+    return negative ? -double(value) : double(value);
+}
+
+// Whether \a text lower-cased is \a word, a lower-case ASCII word, without a copy. Beyond
+// ASCII only the Kelvin sign lower-cases into ASCII, to "k", which none of the words hold.
+bool lowerCaseEquals(QStringView text, QLatin1String word)
+{
+    if (text.size() != word.size())
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text.at(i).unicode();
+        if (c >= 0x80 || (c >= u'A' && c <= u'Z' ? char(c - u'A' + 'a') : char(c)) != word.at(i))
+            return false;
+    }
+    return true;
+}
+
+// One lookup for both the presence and the text of an attribute.
+std::optional<QString> valueOf(const QDomElement& element, const QString& name)
+{
+    // attributeNode() is not const, for no reason that matters to a reader.
+    const QDomAttr attribute = QDomElement(element).attributeNode(name);
+    if (attribute.isNull())
+        return std::nullopt;
+    return attribute.value();
+}
+
 std::optional<double> doubleOf(const QDomElement& element, const QString& name)
 {
-    if (!element.hasAttribute(name))
+    const std::optional<QString> text = valueOf(element, name);
+    if (!text)
         return std::nullopt;
+    const QStringView trimmed = QStringView(*text).trimmed();
+    if (const std::optional<double> whole = plainInteger(trimmed))
+        return whole;
     bool ok = false;
-    const double value = element.attribute(name).trimmed().toDouble(&ok);
+    const double value = trimmed.toDouble(&ok);
     if (!ok)
         reportDefault(element, name, QStringLiteral("a number"));
     return ok ? std::optional<double>(value) : std::nullopt;
@@ -58,20 +107,22 @@ int intCoordinate(const QDomElement& element, const char* name)
 
 QString PvXMLParser::attribute(const QDomElement& element, const QString& name, const QString& defaultValue, bool trim)
 {
-    if (!element.hasAttribute(name))
+    const std::optional<QString> text = valueOf(element, name);
+    if (!text)
         return defaultValue;
-    const QString text = element.attribute(name);
-    return trim ? text.trimmed() : text;
+    return trim ? text->trimmed() : *text;
 }
 
 bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name, bool defaultValue)
 {
-    if (!element.hasAttribute(name))
+    const std::optional<QString> value = valueOf(element, name);
+    if (!value)
         return defaultValue;
-    const QString text = element.attribute(name).trimmed().toLower();
-    if (text == QLatin1String("true") || text == QLatin1String("1") || text == QLatin1String("yes"))
+    const QStringView text = QStringView(*value).trimmed();
+    const auto is = [text](QLatin1String word) { return lowerCaseEquals(text, word); };
+    if (is(QLatin1String("true")) || is(QLatin1String("1")) || is(QLatin1String("yes")))
         return true;
-    if (text == QLatin1String("false") || text == QLatin1String("0") || text == QLatin1String("no"))
+    if (is(QLatin1String("false")) || is(QLatin1String("0")) || is(QLatin1String("no")))
         return false;
     reportDefault(element, name, QStringLiteral("true or false"));
     return defaultValue;
@@ -79,10 +130,11 @@ bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name,
 
 int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, int defaultValue)
 {
-    if (!element.hasAttribute(name))
+    const std::optional<QString> text = valueOf(element, name);
+    if (!text)
         return defaultValue;
     bool ok = false;
-    const int value = element.attribute(name).trimmed().toInt(&ok, 10);
+    const int value = QStringView(*text).trimmed().toInt(&ok, 10);
     if (!ok)
         reportDefault(element, name, QStringLiteral("a whole number"));
     return ok ? value : defaultValue;
@@ -151,8 +203,8 @@ int PvXMLParser::intText(const QDomElement& element, const QString& childName, i
 QList<int> PvXMLParser::intList(const QString& text)
 {
     QList<int> numbers;
-    const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& part : parts) {
+    const QString simple = text.simplified();
+    for (const QStringView part : QStringView(simple).tokenize(u',', Qt::SkipEmptyParts)) {
         bool ok = false;
         const int number = part.toInt(&ok, 10);
         if (ok)

@@ -1,5 +1,6 @@
 #include "PvDefaultTemplateMap.h"
 
+#include "PvEnumAttribute.h"
 #include "PvProductDiagnostics.h"
 
 #include "PvPageTypeList.h"
@@ -33,6 +34,7 @@ void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
         if (!applyDefault(entry) && firstSkipped.isNull())
             firstSkipped = entry;
     }
+    m_rules.squeeze();
     if (firstSkipped.isNull())
         return;
     qCWarning(lcProductProperties, "Default templates beyond %lld entries skipped", qlonglong(maximumEntries));
@@ -101,7 +103,7 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
     PvProductDiagnostics::checkEnum<PvPageAlignment>(entry, QStringLiteral("alignment"), "alignment");
-    const PvPageAlignment alignments(PvXMLParser::attribute(entry, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle")));
+    const PvPageAlignment alignments = pvEnumAttribute(entry, QStringLiteral("alignment"), pvEveryAlignment());
     for (const PvPageAlignmentEnum bit : alignments.splitToBitsSorted())
         rule.alignments |= bit;
     rule.pageNumber = PvXMLParser::intAttribute(entry, QStringLiteral("pageNr"), -1);

@@ -6,36 +6,57 @@
 
 #include <QMap>
 #include <QSharedData>
+#include <QStringTokenizer>
 
 #include <tuple>
 
 class PvJigEditorAbilitiesImpl : public QSharedData
 {
 public:
+    // One "categories" element: the names it gives every page type bit it lists. Kept as
+    // written and split when asked: "all" would otherwise copy its names for every page type
+    // there is, and one string costs a third of a list of its names.
+    struct Categories
+    {
+        quint32 pageTypes = 0;
+        QString text;
+        [[nodiscard]] QStringList names() const { return text.split(QLatin1Char(','), Qt::SkipEmptyParts); }
+    };
+
+    //! The page type bits mapped to their names, the last element naming a bit winning.
+    [[nodiscard]] QMap<PvPageTypeEnum, QStringList> byPageType() const
+    {
+        QMap<PvPageTypeEnum, QStringList> map;
+        for (const Categories& entry : categories) {
+            for (const PvPageTypeEnum bit : pvSplitEnumToBits(PvPageTypeEnum(entry.pageTypes)))
+                map.insert(bit, entry.names());
+        }
+        return map;
+    }
+
     bool enabled = true;
     bool rotatable = false;
     bool fullOnEachPage = true;
     bool requiresExactArticle = false;
-    // A few page types each: a map costs a node each, a hash a table for dozens from the start.
-    QMap<PvPageTypeEnum, QStringList> categories;
+    QList<Categories> categories;
 };
 
 namespace {
-void readCategories(const QDomElement& element, QMap<PvPageTypeEnum, QStringList>& categories)
+PvJigEditorAbilitiesImpl::Categories readCategories(const QDomElement& element)
 {
+    PvJigEditorAbilitiesImpl::Categories entry;
     const PvPageType pageType(PvXMLParser::attribute(element, QStringLiteral("pageType")));
     // Blanks around names are kept: they are part of the category names as written.
-    const QStringList names = element.text().split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& name : names) {
+    entry.text = element.text();
+    for (const QStringView name : QStringView(entry.text).tokenize(u',', Qt::SkipEmptyParts)) {
         if (PvProductDiagnostics::listening() && name != name.trimmed())
             PvProductDiagnostics::report(PvDiagnostic::Error, element,
-                                         QStringLiteral("the text of \"categories\": %1 has blanks around it, so it names no category").arg(PvDiagnostics::quoted(name)));
+                                         QStringLiteral("the text of \"categories\": %1 has blanks around it, so it names no category").arg(PvDiagnostics::quoted(name.toString())));
     }
     PvProductDiagnostics::checkEnum<PvPageType>(element, QStringLiteral("pageType"), "page type");
-    for (PvPageTypeEnum bit : pageType.splitToBitsSorted()) {
-        if (PvPageType(bit).isValid())
-            categories.insert(bit, names);
-    }
+    for (const PvPageTypeEnum bit : pageType.splitToBitsSorted())
+        entry.pageTypes |= bit;
+    return entry;
 }
 }
 
@@ -52,8 +73,12 @@ PvJigEditorAbilities::PvJigEditorAbilities(const QDomElement& element)
     d->fullOnEachPage = PvXMLParser::boolAttribute(element, QStringLiteral("fullOnEachPage"), true);
     d->requiresExactArticle = PvXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false);
     const QString tag = QStringLiteral("categories");
-    for (QDomElement child = element.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag))
-        readCategories(child, d->categories);
+    for (QDomElement child = element.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag)) {
+        PvJigEditorAbilitiesImpl::Categories entry = readCategories(child);
+        if (entry.pageTypes != 0)
+            d->categories.append(std::move(entry));
+    }
+    d->categories.squeeze();
 }
 
 PvJigEditorAbilities::PvJigEditorAbilities(const PvJigEditorAbilities& other) = default;
@@ -66,8 +91,9 @@ bool PvJigEditorAbilities::operator==(const PvJigEditorAbilities& other) const
 {
     if (d == other.d)
         return true;
-    return std::tie(d->enabled, d->rotatable, d->fullOnEachPage, d->requiresExactArticle, d->categories)
-        == std::tie(other.d->enabled, other.d->rotatable, other.d->fullOnEachPage, other.d->requiresExactArticle, other.d->categories);
+    return std::tie(d->enabled, d->rotatable, d->fullOnEachPage, d->requiresExactArticle)
+        == std::tie(other.d->enabled, other.d->rotatable, other.d->fullOnEachPage, other.d->requiresExactArticle)
+        && d->byPageType() == other.d->byPageType();
 }
 
 bool PvJigEditorAbilities::isEnabled() const
@@ -92,5 +118,13 @@ bool PvJigEditorAbilities::requiresExactArticle() const
 
 QStringList PvJigEditorAbilities::allowedCategories(const PvPageType& pageType) const
 {
-    return d->categories.value(pageType.value());
+    // Only single bits were named; any other value names nothing.
+    const quint32 bit = pageType.toUnderlying();
+    if ((bit & (bit - 1)) != 0)
+        return {};
+    for (auto entry = d->categories.crbegin(); entry != d->categories.crend(); ++entry) {
+        if (entry->pageTypes & bit)
+            return entry->names();
+    }
+    return {};
 }

@@ -2,6 +2,8 @@
 
 #include "PvXMLParser.h"
 
+#include <algorithm>
+
 namespace {
 // Stands for every jig type that a product does not list.
 const PvJigEditorAbilities defaultAbilites;
@@ -26,14 +28,22 @@ void PvProductEditorAbilitiesImpl::readJigs(const QDomElement& jigsElement)
     showChangeBaseDesignButton = PvXMLParser::boolAttribute(jigsElement, QStringLiteral("showChangeBaseDesignButton"), false);
     for (QDomElement child = jigsElement.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
         const PvJigType jigType(child.tagName());
-        if (jigType.isValid())
-            jigs.insert(jigType, PvJigEditorAbilities(child));
+        if (!jigType.isValid())
+            continue;
+        // A repeated jig replaces the earlier one.
+        const auto it = std::lower_bound(jigs.begin(), jigs.end(), jigType, [](const auto& entry, const PvJigType& type) { return entry.first < type; });
+        if (it != jigs.end() && it->first == jigType)
+            it->second = PvJigEditorAbilities(child);
+        else
+            jigs.insert(it, { jigType, PvJigEditorAbilities(child) });
     }
+    jigs.squeeze();
 }
 
 PvJigEditorAbilities PvProductEditorAbilitiesImpl::jigAbilities(const PvJigType& jigType) const
 {
-    return jigs.value(jigType, defaultAbilites);
+    const auto it = std::lower_bound(jigs.cbegin(), jigs.cend(), jigType, [](const auto& entry, const PvJigType& type) { return entry.first < type; });
+    return it != jigs.cend() && it->first == jigType ? it->second : defaultAbilites;
 }
 
 bool PvProductEditorAbilitiesImpl::operator==(const PvProductEditorAbilitiesImpl& other) const

@@ -8,7 +8,9 @@
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
-#include <QMap>
+#include <QList>
+
+#include <utility>
 #include <QSharedData>
 
 /*! The shared data of PvProductEditorAbilities. */
@@ -29,8 +31,9 @@ public:
     int editorStartPage = 0;
     PvDateRangeConstraint dateRangeConstraint;
     bool showChangeBaseDesignButton = false;
-    // A handful of entries: a map costs a node each, a hash a table for dozens from the start.
-    QMap<PvJigType, PvJigEditorAbilities> jigs;
+    // Sorted by jig type, one entry each. A handful of entries: a list is one block, a map a
+    // node each and a hash a table for dozens from the start.
+    QList<std::pair<PvJigType, PvJigEditorAbilities>> jigs;
 
 private:
     void readJigs(const QDomElement& jigsElement);

@@ -1,5 +1,6 @@
 #include "PvSurroundingDescription.h"
 
+#include "PvEnumAttribute.h"
 #include "PvSurroundingKey.h"
 #include "PvXMLParser.h"
 
@@ -49,9 +50,11 @@ public:
 void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
 {
     // Note the all-lower-case names among the camel-case ones: files spell them so.
-    surroundingType = PvSurroundingType(PvXMLParser::attribute(element, QStringLiteral("type"), QStringLiteral("book")));
-    pageType = PvPageType(PvXMLParser::attribute(element, QStringLiteral("pageType"), QStringLiteral("all")));
-    alignment = PvPageAlignment(PvXMLParser::attribute(element, QStringLiteral("alignment"), QStringLiteral("left,right,top,bottom,center,middle")));
+    static const PvSurroundingType book(QStringLiteral("book"));
+    static const PvPageType all(QStringLiteral("all"));
+    surroundingType = pvEnumAttribute(element, QStringLiteral("type"), book);
+    pageType = pvEnumAttribute(element, QStringLiteral("pageType"), all);
+    alignment = pvEnumAttribute(element, QStringLiteral("alignment"), pvEveryAlignment());
     pageNr = PvXMLParser::intAttribute(element, QStringLiteral("pageNr"), -1);
     paintOnTop = PvXMLParser::boolAttribute(element, QStringLiteral("paintOnTop"), true);
     canBeHiddenByUser = PvXMLParser::boolAttribute(element, QStringLiteral("canBeHiddenByUser"), false);

@@ -50,7 +50,7 @@ bool PvDefaultTemplateMap::Rule::covers(const PvDefaultTemplateKey& key) const
     const int type = key.defaultTemplateType();
     return type >= PvDefaultTemplateTypeLayout && type <= PvDefaultTemplateTypeDesign && key.pageNumber() == pageNumber
         && key.scenePageCount() == scenePageCount && (alignments & alignment) != 0 && (alignment & (alignment - 1)) == 0
-        && pageTypes.contains(key.pageType());
+        && pageTypes.contains(key.pageType().value());
 }
 
 qsizetype PvDefaultTemplateMap::Rule::entryCount() const
@@ -63,7 +63,7 @@ bool PvDefaultTemplateMap::forEachEntry(const Rule& rule, Store&& store)
 {
     bool complete = true;
     const QList<PvPageAlignmentEnum> alignments = pvSplitEnumToBits(PvPageAlignmentEnum(rule.alignments));
-    for (const PvPageType& pageType : rule.pageTypes) {
+    for (const PvPageTypeEnum pageType : rule.pageTypes) {
         for (const PvPageAlignmentEnum alignment : alignments) {
             const PvPageContext context(pageType, alignment);
             for (const auto type : { PvDefaultTemplateTypeLayout, PvDefaultTemplateTypeBackground, PvDefaultTemplateTypeDesign })
@@ -98,7 +98,8 @@ bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString&
 bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
     Rule rule;
-    rule.pageTypes = PvPageTypeList(PvXMLParser::attribute(entry, QStringLiteral("pageType")));
+    for (const PvPageType& pageType : PvPageTypeList(PvXMLParser::attribute(entry, QStringLiteral("pageType"))))
+        rule.pageTypes.append(pageType.value());
     if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");

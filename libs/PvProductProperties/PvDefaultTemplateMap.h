@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QVarLengthArray>
 
 /*!
  * The layouts, backgrounds and designs a product uses by default for its pages, read from
@@ -51,7 +52,7 @@ private:
     // entry per page type, alignment and kind, five times the file's own size in memory.
     struct Rule
     {
-        PvPageTypeList pageTypes;
+        QVarLengthArray<PvPageTypeEnum, 4> pageTypes; // as listed; a few, so kept inline
         quint32 alignments = 0; // the single alignment bits it names
         int pageNumber = -1;
         int scenePageCount = -1;

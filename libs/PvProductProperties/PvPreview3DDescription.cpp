@@ -81,6 +81,12 @@ void PvPreview3DDescription::init(const QDomElement& product)
     const QDomElement preview = isPreview ? product : product.firstChildElement(previewName);
     const QDomElement owner = isPreview ? product.parentNode().toElement() : product;
 
+    if (preview.isNull()) {
+        // Most products have no 3D preview; they share one empty description.
+        static const QSharedDataPointer<PvPreview3DDescriptionImpl> none(new PvPreview3DDescriptionImpl);
+        d = none;
+        return;
+    }
     d.reset(new PvPreview3DDescriptionImpl);
     d->readMesh(preview.firstChildElement(QStringLiteral("mesh")));
     d->cupRingRect = PvXMLParser::readRectF(preview.firstChildElement(QStringLiteral("cupRing")), QRectF(0, 0, 0, 0));

@@ -12,6 +12,7 @@ PvSurroundingDescriptionList::PvSurroundingDescriptionList(const PvProductType& 
         for (QDomElement item = block.firstChildElement(itemName); !item.isNull(); item = item.nextSiblingElement(itemName))
             append(PvSurroundingDescription(productType, item));
     }
+    squeeze();
 }
 
 PvSurroundingDescription PvSurroundingDescriptionList::findDescription(const PvSurroundingKey& key) const

@@ -77,18 +77,18 @@ std::optional<double> doubleOf(const QDomElement& element, const QString& name)
     return ok ? std::optional<double>(value) : std::nullopt;
 }
 
-bool hasAnyAttribute(const QDomElement& element, std::initializer_list<const char*> names)
+bool hasAnyAttribute(const QDomElement& element, std::initializer_list<QString> names)
 {
-    for (const char* name : names) {
-        if (element.hasAttribute(QLatin1String(name)))
+    for (const QString& name : names) {
+        if (element.hasAttribute(name))
             return true;
     }
     return false;
 }
 
-double coordinate(const QDomElement& element, const char* name)
+double coordinate(const QDomElement& element, const QString& name)
 {
-    return doubleOf(element, QLatin1String(name)).value_or(0.0);
+    return doubleOf(element, name).value_or(0.0);
 }
 
 // Product files are data from outside: a coordinate beyond int or not finite must not overflow.
@@ -99,7 +99,7 @@ int clampedRound(double value)
     return qRound(std::clamp(value, double(INT_MIN), double(INT_MAX)));
 }
 
-int intCoordinate(const QDomElement& element, const char* name)
+int intCoordinate(const QDomElement& element, const QString& name)
 {
     return clampedRound(coordinate(element, name));
 }
@@ -160,30 +160,30 @@ PvDistance PvXMLParser::readDistance(const QDomElement& element, const QString& 
 
 QRect PvXMLParser::readRect(const QDomElement& element, const QRect& defaultValue)
 {
-    if (!hasAnyAttribute(element, { "x", "y", "width", "height" }))
+    if (!hasAnyAttribute(element, { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height") }))
         return defaultValue;
-    return QRect(intCoordinate(element, "x"), intCoordinate(element, "y"), intCoordinate(element, "width"), intCoordinate(element, "height"));
+    return QRect(intCoordinate(element, QStringLiteral("x")), intCoordinate(element, QStringLiteral("y")), intCoordinate(element, QStringLiteral("width")), intCoordinate(element, QStringLiteral("height")));
 }
 
 QRectF PvXMLParser::readRectF(const QDomElement& element, const QRectF& defaultValue)
 {
-    if (!hasAnyAttribute(element, { "x", "y", "width", "height" }))
+    if (!hasAnyAttribute(element, { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height") }))
         return defaultValue;
-    return QRectF(coordinate(element, "x"), coordinate(element, "y"), coordinate(element, "width"), coordinate(element, "height"));
+    return QRectF(coordinate(element, QStringLiteral("x")), coordinate(element, QStringLiteral("y")), coordinate(element, QStringLiteral("width")), coordinate(element, QStringLiteral("height")));
 }
 
 QSize PvXMLParser::readSize(const QDomElement& element, const QSize& defaultValue)
 {
-    if (!hasAnyAttribute(element, { "width", "height" }))
+    if (!hasAnyAttribute(element, { QStringLiteral("width"), QStringLiteral("height") }))
         return defaultValue;
-    return QSize(intCoordinate(element, "width"), intCoordinate(element, "height"));
+    return QSize(intCoordinate(element, QStringLiteral("width")), intCoordinate(element, QStringLiteral("height")));
 }
 
 QVector3D PvXMLParser::readVector3D(const QDomElement& element, const QVector3D& defaultValue)
 {
-    if (!hasAnyAttribute(element, { "x", "y", "z" }))
+    if (!hasAnyAttribute(element, { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z") }))
         return defaultValue;
-    return QVector3D(float(coordinate(element, "x")), float(coordinate(element, "y")), float(coordinate(element, "z")));
+    return QVector3D(float(coordinate(element, QStringLiteral("x"))), float(coordinate(element, QStringLiteral("y"))), float(coordinate(element, QStringLiteral("z"))));
 }
 
 int PvXMLParser::intText(const QDomElement& element, const QString& childName, int defaultValue)

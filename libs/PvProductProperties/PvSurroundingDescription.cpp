@@ -11,6 +11,7 @@
 #include <QStringList>
 
 #include <climits>
+#include <memory>
 #include <tuple>
 
 class PvSurroundingDescriptionImpl : public QSharedData
@@ -23,7 +24,7 @@ public:
     {
         return std::tie(productType, surroundingType, pageType, alignment, pageNr, paintOnTop, canBeHiddenByUser,
             hideGrafikInPreview, image, imageSpotColor, editableArea, hasBindingShade, hasSpineFold, spineFoldWidth,
-            calendarHoleConfig, spiralConfig, variant, tileWidth, tileHeight);
+            calendarHoleConfig, variant, tileWidth, tileHeight);
     }
 
     PvProductType productType;
@@ -41,7 +42,14 @@ public:
     bool hasSpineFold = false;
     int spineFoldWidth = 0;
     PvCalendarHoleConfig calendarHoleConfig;
-    PvSpiralConfig spiralConfig;
+    // Most surroundings have no spiral; they all answer the one read from no element rather
+    // than carry a copy of it.
+    std::shared_ptr<const PvSpiralConfig> spiralConfig;
+    [[nodiscard]] const PvSpiralConfig& spiral() const
+    {
+        static const PvSpiralConfig none { QDomElement() };
+        return spiralConfig ? *spiralConfig : none;
+    }
     PvArticleVariants variant;
     int tileWidth = -1;
     int tileHeight = -1;
@@ -80,7 +88,9 @@ void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
 void PvSurroundingDescriptionImpl::readChildren(const QDomElement& element)
 {
     calendarHoleConfig = PvCalendarHoleConfig(element.firstChildElement(QStringLiteral("hole")));
-    spiralConfig = PvSpiralConfig(element.firstChildElement(QStringLiteral("spirals")));
+    const QDomElement spirals = element.firstChildElement(QStringLiteral("spirals"));
+    if (!spirals.isNull())
+        spiralConfig = std::make_shared<const PvSpiralConfig>(spirals);
 }
 
 PvSurroundingDescription::PvSurroundingDescription()
@@ -138,7 +148,7 @@ QString PvSurroundingDescription::imageResourceSpotColor() const { return d->ima
 bool PvSurroundingDescription::hasBindingShade() const { return d->hasBindingShade; }
 QRect PvSurroundingDescription::editableArea() const { return d->editableArea; }
 PvCalendarHoleConfig PvSurroundingDescription::calendarHoleConfig() const { return d->calendarHoleConfig; }
-PvSpiralConfig PvSurroundingDescription::spiralConfig() const { return d->spiralConfig; }
+PvSpiralConfig PvSurroundingDescription::spiralConfig() const { return d->spiral(); }
 QSize PvSurroundingDescription::tileSize() const { return QSize(d->tileWidth, d->tileHeight); }
 bool PvSurroundingDescription::hasSpineFold() const { return d->hasSpineFold && d->spineFoldWidth > 0; }
 int PvSurroundingDescription::spineFoldWidth() const { return d->spineFoldWidth; }
@@ -156,7 +166,7 @@ size_t PvSurroundingDescription::hashValue() const
 
 bool PvSurroundingDescription::operator==(const PvSurroundingDescription& other) const
 {
-    return d == other.d || d->fields() == other.d->fields();
+    return d == other.d || (d->fields() == other.d->fields() && d->spiral() == other.d->spiral());
 }
 
 QList<QRect> PvSurroundingDescription::parseMask(const QString& text)

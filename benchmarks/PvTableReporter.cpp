@@ -86,11 +86,16 @@ void PvTableReporter::printLoadTable() const
         const double heapPerFile = counter(run, "heap_per_file_size");
         char range[32];
         std::snprintf(range, sizeof range, "%.2f-%.2f", counter(run, "ratio_min"), counter(run, "ratio_max"));
-        std::printf("%6.0f %10s %9.1f %9.1f %6.2f %11s %6.2f %13.1f %13.1f %10s %10s %9.2f  %s, %s\n", counter(run, "files"),
+        // A sanitizer's allocator does not report through mallinfo2(): no heap figures then.
+        const bool heapKnown = counter(run, "heap_per_description") > 0;
+        char heapRatio[16] = "n/a";
+        if (heapKnown)
+            std::snprintf(heapRatio, sizeof heapRatio, "%.2f", heapPerFile);
+        std::printf("%6.0f %10s %9.1f %9.1f %6.2f %11s %6.2f %13.1f %13.1f %10s %10s %9s  %s, %s\n", counter(run, "files"),
                     kilobytes(counter(run, "bytes")).c_str(), counter(run, "parse_ms"), counter(run, "load_ms"), ratio, range, counter(run, "ratio_wall"),
-                    counter(run, "parse_us_per_file"), counter(run, "load_us_per_file"), kilobytes(counter(run, "heap_per_description")).c_str(),
-                    kilobytes(counter(run, "mean_file_size")).c_str(), heapPerFile, verdict(ratio, ratioTarget, ratioLimit),
-                    verdict(heapPerFile, heapTarget, heapLimit));
+                    counter(run, "parse_us_per_file"), counter(run, "load_us_per_file"),
+                    heapKnown ? kilobytes(counter(run, "heap_per_description")).c_str() : "n/a", kilobytes(counter(run, "mean_file_size")).c_str(),
+                    heapRatio, verdict(ratio, ratioTarget, ratioLimit), heapKnown ? verdict(heapPerFile, heapTarget, heapLimit) : "n/a");
         warnings += int(counter(run, "warnings"));
     }
     std::printf("\nTargets: ratio load/parse <= %.2f (never above %.2f); heap per description <= %.0fx its file size (never above %.0fx).\n",

@@ -8,6 +8,7 @@
 #include "PvXMLParser.h"
 
 #include <QStringList>
+#include <QStringTokenizer>
 #include <QtAlgorithms>
 
 #include <algorithm>
@@ -15,7 +16,10 @@
 
 namespace {
 // The house background of pages whose default names none.
-const char* const houseBackground = "201";
+QString houseBackground()
+{
+    return QStringLiteral("201");
+}
 // Every default makes three entries per page type and alignment it names. Real products hold
 // a few thousand at most; the bound keeps a file's entries from costing more than a few MB.
 constexpr qsizetype maximumEntries = 20000;
@@ -98,8 +102,11 @@ bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString&
 bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
     Rule rule;
-    for (const PvPageType& pageType : PvPageTypeList(PvXMLParser::attribute(entry, QStringLiteral("pageType"))))
-        rule.pageTypes.append(pageType.value());
+    // As PvPageTypeList reads it, without building one.
+    const auto* pageTypeTable = PvPageType().enumToStringTable();
+    const QString pageTypes = PvXMLParser::attribute(entry, QStringLiteral("pageType"));
+    for (const QStringView part : QStringView(pageTypes).tokenize(u','))
+        rule.pageTypes.append(pageTypeTable->decodeCSV(part));
     if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
@@ -110,9 +117,15 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
     rule.pageNumber = PvXMLParser::intAttribute(entry, QStringLiteral("pageNr"), -1);
     rule.scenePageCount = PvXMLParser::intAttribute(entry, QStringLiteral("scenePageCount"), -1);
 
-    const QStringList templates = PvXMLParser::attribute(entry, QStringLiteral("templates")).split(QLatin1Char(','), Qt::SkipEmptyParts);
-    const QString layoutDefault = templates.size() == 2 ? templates.at(1) : QString();
-    const QString backgroundDefault = templates.isEmpty() ? QString::fromLatin1(houseBackground) : templates.first();
+    QString layoutDefault;
+    QString backgroundDefault = houseBackground();
+    if (entry.hasAttribute(QStringLiteral("templates"))) {
+        const QStringList templates = entry.attribute(QStringLiteral("templates")).split(QLatin1Char(','), Qt::SkipEmptyParts);
+        if (templates.size() == 2)
+            layoutDefault = templates.at(1);
+        if (!templates.isEmpty())
+            backgroundDefault = templates.first();
+    }
     rule.names[PvDefaultTemplateTypeLayout] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());
     rule.names[PvDefaultTemplateTypeBackground] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
     rule.names[PvDefaultTemplateTypeDesign] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design")));

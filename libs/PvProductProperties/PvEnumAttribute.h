@@ -2,7 +2,6 @@
 
 #include "PvPageAlignment.h"
 
-#include <QDomAttr>
 #include <QDomElement>
 
 // Readers of enumeration attributes whose missing value is a fixed text: the text is decoded
@@ -12,8 +11,7 @@
 template <typename Wrapper>
 Wrapper pvEnumAttribute(const QDomElement& element, const QString& name, const Wrapper& fallback)
 {
-    const QDomAttr attribute = QDomElement(element).attributeNode(name);
-    return attribute.isNull() ? fallback : Wrapper(attribute.value());
+    return element.hasAttribute(name) ? Wrapper(element.attribute(name)) : fallback;
 }
 
 //! What a missing "alignment" stands for: "left,right,top,bottom,center,middle".

@@ -6,6 +6,7 @@
 #include "PvXMLParser.h"
 
 #include <QStringList>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <limits>
@@ -49,10 +50,36 @@ PvPageAlignment horizontalOr(bool horizontal, PvPageAlignmentEnum side, PvPageAl
 }
 }
 
+// The children of "product" with their tags, from one walk: finding each by name walks all
+// children again, copying a node handle at every step.
+struct PvProductTypeDescription::Elements
+{
+    explicit Elements(const QDomElement& element)
+        : product(element)
+    {
+        for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+            children.append({ child.tagName(), child });
+    }
+
+    //! The first child named \a tag, as firstChildElement() finds it.
+    [[nodiscard]] QDomElement child(const QString& tag) const
+    {
+        for (const auto& [name, element] : children) {
+            if (name == tag)
+                return element;
+        }
+        return {};
+    }
+
+    QDomElement product;
+    QVarLengthArray<std::pair<QString, QDomElement>, 32> children;
+};
+
 PvProductTypeDescription::PvProductTypeDescription() = default;
 
 PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
 {
+    const Elements elements(product);
     // The order of these steps is the order product files are read in; later steps may
     // depend on earlier ones (the surroundings on the product type, for one).
     m_classification = PvProductClassification(product);
@@ -62,16 +89,16 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding")));
     PvProductDiagnostics::checkEnum<PvCoverType>(product, QStringLiteral("binding"), "cover type");
     initLayout(product);
-    initRedirectsAndDefaults(product);
+    initRedirectsAndDefaults(elements);
     initVariants(product);
-    initPages(product);
-    initPageNumbering(product);
-    m_extraProductionContents = PvProductionExtraPageGroupList(child(product, QStringLiteral("extra_production_pages")));
+    initPages(elements);
+    initPageNumbering(elements);
+    m_extraProductionContents = PvProductionExtraPageGroupList(elements.child(QStringLiteral("extra_production_pages")));
     m_foldSafetyMargin = decodeFoldSafetyMargin(product);
     initReplacement(product);
-    m_editorAbilities = PvProductEditorAbilities(child(product, QStringLiteral("editorAbilities")));
-    initPricListCategories(product);
-    initbarcodeDefinitions(product);
+    m_editorAbilities = PvProductEditorAbilities(elements.child(QStringLiteral("editorAbilities")));
+    initPricListCategories(elements);
+    initbarcodeDefinitions(elements);
     initPreview3D(product);
 }
 
@@ -113,13 +140,13 @@ void PvProductTypeDescription::initLayout(const QDomElement& product)
     m_surroundings = PvSurroundingDescriptionList(m_productType, product);
 }
 
-void PvProductTypeDescription::initRedirectsAndDefaults(const QDomElement& product)
+void PvProductTypeDescription::initRedirectsAndDefaults(const Elements& product)
 {
-    m_tiltRedirects = PvPageTiltRedirectList(child(product, QStringLiteral("rotationredirects")));
-    m_contentDropRedirects = PvContentDropRedirectList(child(product, QStringLiteral("contentredirects")));
-    m_defaultTemplates = PvDefaultTemplateMap(child(product, QStringLiteral("defaults")));
+    m_tiltRedirects = PvPageTiltRedirectList(product.child(QStringLiteral("rotationredirects")));
+    m_contentDropRedirects = PvContentDropRedirectList(product.child(QStringLiteral("contentredirects")));
+    m_defaultTemplates = PvDefaultTemplateMap(product.child(QStringLiteral("defaults")));
     // Deliberately 270 when the product says nothing about tilt.
-    m_tiltAngle = PvXMLParser::readAngle(child(product, QStringLiteral("tilt")), QStringLiteral("angle"), 270);
+    m_tiltAngle = PvXMLParser::readAngle(product.child(QStringLiteral("tilt")), QStringLiteral("angle"), 270);
 }
 
 void PvProductTypeDescription::initVariants(const QDomElement& product)
@@ -127,13 +154,13 @@ void PvProductTypeDescription::initVariants(const QDomElement& product)
     m_variants = PvConfiguredArticleVariantList(product);
 }
 
-void PvProductTypeDescription::initPages(const QDomElement& product)
+void PvProductTypeDescription::initPages(const Elements& product)
 {
-    m_productionNumbering = decodeIntList(child(product, QStringLiteral("productionnumbering")));
-    m_pagesWithContent = decodeIntList(child(product, QStringLiteral("pageswithcontent")));
+    m_productionNumbering = decodeIntList(product.child(QStringLiteral("productionnumbering")));
+    m_pagesWithContent = decodeIntList(product.child(QStringLiteral("pageswithcontent")));
     // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
     // pageTypes(n) warn about the product.
-    const QDomElement pagesElement = child(product, QStringLiteral("pages"));
+    const QDomElement pagesElement = product.child(QStringLiteral("pages"));
     m_pageTypes = PvPageTypeList(pagesElement.text());
     PvProductDiagnostics::checkEnum<PvPageType>(pagesElement, QString(), "page type", true);
 
@@ -145,9 +172,9 @@ void PvProductTypeDescription::initPages(const QDomElement& product)
     m_hasTextOnSpine = m_hasSpine && !pages.containsMatch(PvPageTypeEnum(PvPageTypeCoverInsideFront | PvPageTypeCoverInsideBack));
 }
 
-void PvProductTypeDescription::initPageNumbering(const QDomElement& product)
+void PvProductTypeDescription::initPageNumbering(const Elements& product)
 {
-    const QDomElement config = child(product, QStringLiteral("pageNumberConfig"));
+    const QDomElement config = product.child(QStringLiteral("pageNumberConfig"));
     const QDomElement margin = child(config, QStringLiteral("margin"));
     const PvDistanceUnit unit(PvTenthMillimetre);
     m_pageNumberVerticalIndent = PvXMLParser::readDistance(margin, QStringLiteral("verticalMargin"), 50.0, unit);
@@ -162,16 +189,16 @@ void PvProductTypeDescription::initReplacement(const QDomElement& product)
     PvProductDiagnostics::checkEnum<PvXMLRewriterStrategy>(product, QStringLiteral("conversionStrategy"), "conversion strategy");
 }
 
-void PvProductTypeDescription::initPricListCategories(const QDomElement& product)
+void PvProductTypeDescription::initPricListCategories(const Elements& product)
 {
-    const QDomElement category = child(child(product, QStringLiteral("pricelist")), QStringLiteral("category"));
+    const QDomElement category = child(product.child(QStringLiteral("pricelist")), QStringLiteral("category"));
     if (!category.isNull())
         m_priceListCategory = category.text();
 }
 
-void PvProductTypeDescription::initbarcodeDefinitions(const QDomElement& product)
+void PvProductTypeDescription::initbarcodeDefinitions(const Elements& product)
 {
-    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(child(product, QStringLiteral("barcodes")), PvDistanceUnit(PvTenthMillimetre));
+    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(product.child(QStringLiteral("barcodes")), PvDistanceUnit(PvTenthMillimetre));
 }
 
 void PvProductTypeDescription::initPreview3D(const QDomElement& product)

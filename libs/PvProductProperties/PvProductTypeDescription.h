@@ -196,17 +196,18 @@ public:
     [[nodiscard]] static int decodeFoldSafetyMargin(const QDomElement& element);
 
 private:
+    struct Elements;
     void initIdentity(const QDomElement& product);
     void initArticleClass(const QDomElement& product);
     void initImageFX(const QDomElement& product);
     void initLayout(const QDomElement& product);
-    void initRedirectsAndDefaults(const QDomElement& product);
+    void initRedirectsAndDefaults(const Elements& product);
     void initVariants(const QDomElement& product);
-    void initPages(const QDomElement& product);
-    void initPageNumbering(const QDomElement& product);
+    void initPages(const Elements& product);
+    void initPageNumbering(const Elements& product);
     void initReplacement(const QDomElement& product);
-    void initPricListCategories(const QDomElement& product);
-    void initbarcodeDefinitions(const QDomElement& product);
+    void initPricListCategories(const Elements& product);
+    void initbarcodeDefinitions(const Elements& product);
     void initPreview3D(const QDomElement& product);
 
     PvProductClassification m_classification;

@@ -100,6 +100,7 @@ void TestDraw::pagesAsTheLibraryAnswers_data()
     QTest::newRow("folded card") << "card-easy-folded-a6" << 4;
     QTest::newRow("wall calendar") << "calendar-wall-a3-portrait" << 12;
     QTest::newRow("desk calendar") << "calendar-desk-a5-landscape" << 12;
+    QTest::newRow("advent calendar, content on two pages") << "advent-calendar-photo" << 6;
 }
 
 void TestDraw::pagesAsTheLibraryAnswers()
@@ -259,6 +260,7 @@ void TestDraw::marksOnExactlyTheirPages()
         QVERIFY2(hasColor(image, page.rect, PvPictureMarks::loopColor) == surrounding.spiralConfig().hasSpiral(), where);
         QVERIFY2(hasColor(image, page.rect, PvPictureMarks::holeColor) == surrounding.calendarHoleConfig().hasHole(), where);
         QVERIFY2(hasColor(image, page.rect, PvPagePainter::hatchColor) == !d.contentAllowedOnPage(page.index), where);
+        QCOMPARE(page.surroundingType, surrounding.surroundingType().value() ? surrounding.surroundingType().encodeCSV() : QString());
         QCOMPARE(page.bindingShade, surrounding.hasBindingShade());
         QCOMPARE(page.spineFold, surrounding.hasSpineFold());
         for (const QRectF& loop : page.spiralLoops)

@@ -63,7 +63,10 @@ QList<QLineF> PvPagePainter::hatchLines(const QRectF& rect)
 
 QStringList PvPagePainter::labelLines(const PvPicturePage& page)
 {
-    return { QStringLiteral("#%1").arg(page.index), page.pageType, page.alignment, QStringLiteral("No. %1").arg(page.productionNumber) };
+    QStringList lines { QStringLiteral("#%1").arg(page.index), page.pageType, page.alignment, QStringLiteral("No. %1").arg(page.productionNumber) };
+    if (!page.surroundingType.isEmpty())
+        lines.append(page.surroundingType);
+    return lines;
 }
 
 void PvPagePainter::paintPage(QPainter& painter, const PvPicturePage& page)

@@ -42,7 +42,7 @@ void PvPictureLegend::paint(QPainter& painter, const PvPictureLayout& layout)
     const QFontMetricsF metrics(font);
     painter.setPen(Qt::black);
     painter.drawText(QPointF(layout.legend.left(), layout.legend.top() + metrics.ascent()),
-                     QStringLiteral("Each page: #index, page type, alignment, production number. Marks from the surrounding the product finds for the page:"));
+                     QStringLiteral("Each page: #index, page type, alignment, production number and the type of the surrounding the product finds for it, whose marks are:"));
     const qreal y = layout.legend.top() + metrics.lineSpacing() + 4;
     qreal x = layout.legend.left();
     x = entry(painter, x, y, QStringLiteral("no content allowed"), [&](const QRectF& box) {

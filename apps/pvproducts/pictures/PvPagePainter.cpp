@@ -25,17 +25,18 @@ void paintLabel(QPainter& painter, const PvPicturePage& page)
     painter.setPen(textColor);
     const QFontMetricsF metrics(font);
     QRectF area = page.rect.adjusted(labelPadding, labelPadding, -labelPadding, -labelPadding);
+    QStringList lines = PvPagePainter::labelLines(page);
     painter.save();
-    // Spines and other narrow pieces get their label along their length.
+    // Spines and other narrow pieces get their label in one line along their length.
     if (area.width() < 50 && area.height() > area.width()) {
         painter.translate(area.bottomLeft());
         painter.rotate(-90);
         area = QRectF(0, 0, area.height(), area.width());
+        lines = QStringList { lines.join(QLatin1Char(' ')) };
     }
     // Leave the bound edge's marks visible: the label starts below loops along the top.
     if (page.boundEdge == Qt::TopEdge && !page.spiralLoops.isEmpty() && area == page.rect.adjusted(labelPadding, labelPadding, -labelPadding, -labelPadding))
         area.setTop(area.top() + 14 + (page.hole.isNull() ? 0 : page.hole.height() + 2));
-    const QStringList lines = PvPagePainter::labelLines(page);
     qreal y = area.top() + metrics.ascent();
     for (const QString& line : lines) {
         if (y > area.bottom())

@@ -18,7 +18,7 @@ QString suffixOf(const QString& fileName)
 
 QString writePng(const PvPictureLayout& layout, const QString& fileName)
 {
-    QImage image(layout.size, QImage::Format_ARGB32_Premultiplied);
+    QImage image(layout.size, QImage::Format_RGB32);
     if (image.isNull())
         return QStringLiteral("a picture of %1 x %2 pixels does not fit in memory").arg(layout.size.width()).arg(layout.size.height());
     QPainter painter(&image);

@@ -16,6 +16,8 @@
 #include <QTest>
 #include <QTransform>
 
+#include <algorithm>
+
 namespace {
 const PvProductTypeDescription& sample(const QString& type)
 {
@@ -286,8 +288,10 @@ void TestDraw::refusals_data()
                                         << "product type \"x\" has no pages";
     QTest::newRow("other suffix") << book << 4 << "a.gif" << "%1: a picture is written as .png or .svg";
     QTest::newRow("no suffix") << book << 4 << "picture" << "%1: a picture is written as .png or .svg";
-    QTest::newRow("negative count") << book << -1 << "a.svg" << "a picture takes a page count from 0 to 1000";
-    QTest::newRow("huge count") << book << 1001 << "a.png" << "a picture takes a page count from 0 to 1000";
+    QTest::newRow("negative count") << book << -1 << "a.svg" << "a picture takes a page count from 0 to 400";
+    QTest::newRow("huge count") << book << 401 << "a.png" << "a picture takes a page count from 0 to 400";
+    QTest::newRow("too many written pages") << QStringLiteral("<product name='p' class='poster' binding='wall'><pages>%1</pages></product>").arg(QStringList(401, QStringLiteral("page")).join(QLatin1Char(',')))
+                                            << 1 << "a.png" << "product type \"p\" has 401 pages for 1, too many to draw";
     QTest::newRow("unwritable") << book << 4 << "no-such-dir/a.png" << "cannot write %1";
 }
 

@@ -43,8 +43,8 @@ struct PvPictureCaption {
  * project of a given page count: plain data, so that the painters and the tests share it.
  */
 struct PvPictureLayout {
-    //! More concrete pages than this make a picture nobody can read (and a huge file).
-    static constexpr int maximumPageCount = 1000;
+    //! More pages than this make a picture nobody reads, of tens of megabytes in memory.
+    static constexpr int maximumPageCount = 400;
 
     QString productType;
     QString heading;

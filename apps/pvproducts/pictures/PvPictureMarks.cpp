@@ -15,6 +15,7 @@ constexpr qreal loopDepth = 12;
 constexpr qreal minimumPitch = 3;
 constexpr qreal holeDiameter = 9;
 constexpr qreal shadeDepth = 14;
+constexpr quint32 spineType = 0x1;
 
 bool alongWidth(Qt::Edge edge)
 {
@@ -147,7 +148,7 @@ void PvPictureMarks::paintUnder(QPainter& painter, const PvPicturePage& page)
 {
     // A spine is bound on both long edges.
     QList<Qt::Edge> edges { page.boundEdge };
-    if (page.pageTypeValue & 0x1)
+    if (page.pageTypeValue & spineType)
         edges.append(page.boundEdge == Qt::LeftEdge ? Qt::RightEdge : Qt::BottomEdge);
     for (Qt::Edge edge : edges) {
         if (page.bindingShade)

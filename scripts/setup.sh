@@ -5,8 +5,9 @@
 set -euo pipefail
 
 # qt6-tools-dev: the Linguist CMake functions (qt_add_translations); doxygen: the API reference;
+# qt6-svg-dev and a font: the pictures of pvproducts draw, which also run without a display;
 # libbenchmark-dev: Google Benchmark for benchmarks/ (scripts/bench.sh).
-packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools qt6-tools-dev doxygen libbenchmark-dev)
+packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools qt6-tools-dev qt6-svg-dev fonts-dejavu-core doxygen libbenchmark-dev)
 if [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-14-dev)
 fi

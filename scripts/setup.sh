@@ -4,8 +4,9 @@
 # --fuzz: also what the fuzz build needs (clang with its libFuzzer and sanitizer runtimes).
 set -euo pipefail
 
-# qt6-tools-dev: the Linguist CMake functions (qt_add_translations); doxygen: the API reference.
-packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools qt6-tools-dev doxygen)
+# qt6-tools-dev: the Linguist CMake functions (qt_add_translations); doxygen: the API reference;
+# qt6-svg-dev and a font: the pictures of pvproducts draw, which also run without a display.
+packages=(cmake ninja-build g++ qt6-base-dev qt6-l10n-tools qt6-tools-dev qt6-svg-dev fonts-dejavu-core doxygen)
 if [ "${1:-}" = "--fuzz" ]; then
     packages+=(clang libclang-rt-14-dev)
 fi

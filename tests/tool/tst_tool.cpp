@@ -91,6 +91,10 @@ void TestTool::commands_data()
     QTest::newRow("unknown class") << data + args("find --class vase") << 2 << QStringList();
     QTest::newRow("missing data dir") << args("--data /no/such/dir list") << 2 << QStringList();
     QTest::newRow("spiral without out") << data + args("spiral test-calendar") << 2 << QStringList();
+    QTest::newRow("draw without out") << data + args("draw test-book") << 2 << QStringList();
+    QTest::newRow("draw to another format") << data + args("draw test-book --out book.gif") << 2 << QStringList();
+    QTest::newRow("draw too many pages") << data + args("draw test-book --pages 1001 --out book.png") << 2 << QStringList();
+    QTest::newRow("draw an unknown type") << data + args("draw no-such-product --out book.png") << 1 << QStringList();
     QTest::newRow("help of a command") << args("show --help") << 0 << QStringList();
     QTest::newRow("show a retired product") << data + args("show test-old-book") << 0
         << QStringList { QStringLiteral("legacy: yes"), QStringLiteral("replacedBy: test-book"), QStringLiteral("conversionStrategy: RewriteOneToTwoPages") };
@@ -183,6 +187,17 @@ void TestTool::sampleCatalogue()
     const QImage strip(png);
     QVERIFY(!strip.isNull());
     QVERIFY(strip.height() > strip.width());
+
+    for (const QString& name : { QStringLiteral("calendar.png"), QStringLiteral("calendar.svg") }) {
+        const Run draw = pvproducts({ QStringLiteral("draw"), QStringLiteral("calendar-wall-a3-portrait"), QStringLiteral("--pages"), QStringLiteral("4"),
+                                      QStringLiteral("--out"), dir.filePath(name) });
+        QCOMPARE(draw.exitCode, 0);
+        QCOMPARE(draw.err, QString());
+    }
+    QVERIFY(!QImage(dir.filePath(QStringLiteral("calendar.png"))).isNull());
+    QFile svg(dir.filePath(QStringLiteral("calendar.svg")));
+    QVERIFY(svg.open(QIODevice::ReadOnly));
+    QVERIFY(svg.readAll().contains("<svg"));
 
     const Run category = pvproducts({ QStringLiteral("--language"), QStringLiteral("en_GB"), QStringLiteral("category"), QStringLiteral("Hintergründe") });
     QCOMPARE(category.exitCode, 0);

@@ -9,9 +9,11 @@ PvCommand pvLegacyCommand();
 PvCommand pvCategoryCommand();
 PvCommand pvSpiralCommand();
 PvCommand pvLintCommand();
+PvCommand pvDrawCommand();
 
 QList<PvCommand> pvCommands()
 {
     return { pvListCommand(), pvShowCommand(), pvFindCommand(), pvGroupsCommand(), pvClosestCommand(),
-             pvLegacyCommand(), pvCategoryCommand(), pvSpiralCommand(), pvLintCommand() };
+             pvLegacyCommand(), pvCategoryCommand(), pvSpiralCommand(), pvLintCommand(),
+             pvDrawCommand() };
 }

@@ -50,8 +50,10 @@ QDomDocument parse(const QString& fileName)
 {
     QFile file(fileName);
     QDomDocument document;
-    if (file.open(QIODevice::ReadOnly) && !document.setContent(&file))
-        qWarning("%s is not well-formed", qPrintable(fileName));
+    if (!file.open(QIODevice::ReadOnly) || !document.setContent(&file)) {
+        qWarning("%s is missing or not well-formed", qPrintable(fileName));
+        return {};
+    }
     return document;
 }
 
@@ -164,6 +166,10 @@ void TestReport::initTestCase()
                                   "<pricelist><category>&lt;script&gt;x&lt;/script&gt; &amp;amp; %1</category></pricelist></product></products>")
                        .arg(escaped).toUtf8());
     }
+    QFile bare(m_altered + QStringLiteral("/products/no-pages.xml"));
+    QVERIFY(bare.open(QIODevice::WriteOnly));
+    bare.write("<products><product name=\"no-pages\" class=\"poster\"/></products>");
+    bare.close();
     QCOMPARE(pvproducts({ QStringLiteral("--data"), m_altered, QStringLiteral("report"), QStringLiteral("--out"), m_dir.filePath(QStringLiteral("altered-report")) }).exitCode, 0);
 }
 
@@ -175,6 +181,7 @@ void TestReport::usage_data()
     QTest::newRow("empty --out") << QStringList { QStringLiteral("report"), QStringLiteral("--out"), QString() } << 2;
     QTest::newRow("--out names a file") << QStringList { QStringLiteral("report"), QStringLiteral("--out"), QStringLiteral(PV_TOOL) } << 2;
     QTest::newRow("a product type") << QStringList { QStringLiteral("report"), QStringLiteral("poster-a2"), QStringLiteral("--out"), QStringLiteral("x") } << 2;
+    QTest::newRow("broken catalogue") << QStringList { QStringLiteral("--data"), QStringLiteral(PV_BROKEN), QStringLiteral("report"), QStringLiteral("--out"), QStringLiteral("TMP/a/b") } << 0;
     QTest::newRow("new nested directory") << QStringList { QStringLiteral("report"), QStringLiteral("--out"), QStringLiteral("TMP/a/b") } << 0;
 }
 
@@ -234,6 +241,7 @@ void TestReport::productPage_data()
         const QString name = line.section(QLatin1Char(' '), 0, 0);
         QTest::newRow(qPrintable(name)) << QStringLiteral(PV_SAMPLE) << m_dir.filePath(QStringLiteral("sample")) << name;
     }
+    QTest::newRow("without pages") << m_altered << m_dir.filePath(QStringLiteral("altered-report")) << QStringLiteral("no-pages");
     for (const char* name : hostileNames)
         QTest::newRow(name) << m_altered << m_dir.filePath(QStringLiteral("altered-report")) << QString::fromUtf8(name);
 }
@@ -259,8 +267,13 @@ void TestReport::productPage()
     printFacts(section(page, QStringLiteral("facts")).firstChildElement(QStringLiteral("dl")), 0, facts);
     QCOMPARE(facts, QString::fromUtf8(pvproducts({ QStringLiteral("--data"), data, QStringLiteral("show"), name }).out));
 
-    const QDomElement picture = section(page, QStringLiteral("picture")).firstChildElement(QStringLiteral("figure")).firstChildElement(QStringLiteral("img"));
-    QVERIFY(!QImage(QFileInfo(entry.page).dir().filePath(picture.attribute(QStringLiteral("src")))).isNull());
+    // A product without pages gets a sentence instead of a picture.
+    const QDomElement pictures = section(page, QStringLiteral("picture"));
+    const QDomElement picture = pictures.firstChildElement(QStringLiteral("figure")).firstChildElement(QStringLiteral("img"));
+    const QJsonArray pageList = shown.value(QStringLiteral("abstractPageList")).toArray();
+    const bool hasPages = std::any_of(pageList.cbegin(), pageList.cend(), [](const QJsonValue& type) { return !type.toString().isEmpty(); });
+    QCOMPARE(!QImage(QFileInfo(entry.page).dir().filePath(picture.attribute(QStringLiteral("src")))).isNull(), hasPages);
+    QCOMPARE(pictures.firstChildElement(QStringLiteral("p")).isNull(), hasPages);
 
     const QJsonArray surroundings = shown.value(QStringLiteral("surroundings")).toArray();
     const bool spiral = std::any_of(surroundings.cbegin(), surroundings.cend(), [](const QJsonValue& s) { return s.toObject().contains(QStringLiteral("spiral")); });

@@ -11,10 +11,12 @@ namespace {
 QString entry(const PvReportProduct& product)
 {
     const PvProductTypeDescription& d = *product.facts.description;
-    QStringList about { QStringLiteral("cover: ") + d.coverType().encodeCSV(), d.isValid() ? QString() : QStringLiteral("invalid"), PvHtmlFindings::counts(product.findings) };
+    const QString cover = d.coverType().encodeCSV();
+    QStringList about { cover.isEmpty() ? QString() : QStringLiteral("cover: ") + cover, d.isValid() ? QString() : QStringLiteral("invalid"),
+                        PvHtmlFindings::counts(product.findings) };
     about.removeAll(QString());
     return QStringLiteral("<li>%1 <span class=\"counts\">%2</span></li>\n")
-        .arg(PvHtml::link(PvReportLayout::productPage(product.stem), product.name), PvHtml::escape(about.join(QStringLiteral(" · "))));
+        .arg(PvHtml::link(PvReportLayout::productPage(product.stem), product.title()), PvHtml::escape(about.join(QStringLiteral(" · "))));
 }
 
 QString group(const QString& title, const QList<const PvReportProduct*>& products)

@@ -14,6 +14,9 @@ struct PvReportProduct {
     QString stem;
     //! The findings in the files that define it.
     QList<PvDiagnostic> findings;
+
+    //! The name to show; a file may define a product without a name.
+    [[nodiscard]] QString title() const { return name.isEmpty() ? QStringLiteral("(no name)") : name; }
 };
 
 //! Where the report keeps its files, relative to its directory.

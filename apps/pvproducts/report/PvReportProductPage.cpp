@@ -30,7 +30,7 @@ QString pictureSection(const QDir& out, const PvReportProduct& product)
     const PvReportPicture picture = PvReportPicture::choose(*product.facts.description);
     const QString file = PvReportLayout::picture(product.stem);
     const QString whyNot = picture.write(*product.facts.description, out.filePath(file));
-    const QString body = whyNot.isEmpty() ? figure(file, QStringLiteral("The pages of %1").arg(product.name), picture.caption)
+    const QString body = whyNot.isEmpty() ? figure(file, QStringLiteral("The pages of %1").arg(product.title()), picture.caption)
                                           : PvHtml::element("p", whyNot, "missing") + QLatin1Char('\n');
     return QStringLiteral("<section id=\"picture\">\n<h2>Pages</h2>\n%1</section>\n").arg(body);
 }
@@ -47,7 +47,7 @@ QString spiralSection(const QDir& out, const PvReportProduct& product, QStringLi
         problems.append(whyNot);
     }
     const QString body = whyNot.isEmpty()
-        ? figure(file, QStringLiteral("The spiral strip of %1").arg(product.name),
+        ? figure(file, QStringLiteral("The spiral strip of %1").arg(product.title()),
                  QStringLiteral("The strip of the first surrounding with a spiral, for a horizontal edge (%1 x %2 pixels).")
                      .arg(QString::number(strip.width()), QString::number(strip.height())))
         : PvHtml::element("p", whyNot, "missing") + QLatin1Char('\n');
@@ -61,14 +61,14 @@ QStringList PvReportProductPage::write(const QDir& out, const PvReportProduct& p
     // The library may warn while it builds the page list: say which product.
     PvToolMessages::setSubject(QStringLiteral("product \"%1\" (%2)").arg(product.name, PvJsonOutput::displayPath(product.facts.files.value(0))));
     QString body = QStringLiteral("<nav>%1</nav>\n").arg(PvHtml::link(fromPage(PvReportLayout::index()), QStringLiteral("Catalogue")));
-    body += PvHtml::element("h1", product.name) + QLatin1Char('\n');
+    body += PvHtml::element("h1", product.title()) + QLatin1Char('\n');
     body += pictureSection(out, product);
     body += spiralSection(out, product, problems);
     body += QStringLiteral("<section id=\"findings\">\n<h2>Findings</h2>\n%1</section>\n").arg(PvHtmlFindings::table(product.findings));
     body += QStringLiteral("<section id=\"facts\">\n<h2>Facts</h2>\n%1</section>\n").arg(PvHtmlFacts::definitionList(product.facts.json(), PvDescriptionJson::order()));
     PvToolMessages::setSubject(QString());
     const QString whyNot = PvHtml::write(out.filePath(PvReportLayout::productPage(product.stem)),
-                                         PvHtml::page(product.name, fromPage(PvReportLayout::stylesheet()), body));
+                                         PvHtml::page(product.title(), fromPage(PvReportLayout::stylesheet()), body));
     if (!whyNot.isEmpty())
         problems.append(whyNot);
     return problems;

@@ -106,6 +106,8 @@ QJsonArray jigs(const PvProductTypeDescription& d)
             QStringList names;
             for (const PvThematicCategory& category : set)
                 names.append(category.internalName());
+            // A set iterates in hash order, which differs from run to run.
+            names.sort();
             if (!names.isEmpty())
                 categories.insert(nameOf(pageType), QJsonArray::fromStringList(names));
         }

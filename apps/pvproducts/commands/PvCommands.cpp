@@ -10,10 +10,11 @@ PvCommand pvCategoryCommand();
 PvCommand pvSpiralCommand();
 PvCommand pvLintCommand();
 PvCommand pvDrawCommand();
+PvCommand pvReportCommand();
 
 QList<PvCommand> pvCommands()
 {
     return { pvListCommand(), pvShowCommand(), pvFindCommand(), pvGroupsCommand(), pvClosestCommand(),
              pvLegacyCommand(), pvCategoryCommand(), pvSpiralCommand(), pvLintCommand(),
-             pvDrawCommand() };
+             pvDrawCommand(), pvReportCommand() };
 }

@@ -1,8 +1,7 @@
 #include "PvDescriptionJson.h"
 #include "PvJsonOutput.h"
-#include "PvLegacyProductTypeConfigRegistry.h"
+#include "PvProductFacts.h"
 #include "PvProductSources.h"
-#include "PvProductTypeConfigRegistry.h"
 #include "PvProductTypeDescription.h"
 #include "PvTextTable.h"
 #include "PvToolContext.h"
@@ -14,14 +13,6 @@ namespace {
 constexpr int maximumPageCount = 100000;
 
 const QCommandLineOption pagesOption(QStringLiteral("pages"), QStringLiteral("Also list the concrete pages of a project of <n> pages."), QStringLiteral("n"));
-
-QJsonArray relative(const QStringList& files)
-{
-    QJsonArray array;
-    for (const QString& file : files)
-        array.append(PvJsonOutput::displayPath(file));
-    return array;
-}
 
 int show(PvToolContext& context)
 {
@@ -36,26 +27,11 @@ int show(PvToolContext& context)
             return context.usage(QStringLiteral("--pages needs a page count from 0 to %1").arg(maximumPageCount));
     }
     const PvProductType type(arguments.at(0));
-    const PvProductSources sources(context.dataRoot);
-    const PvProductTypeDescription* d = nullptr;
-    bool legacy = false;
-    QStringList files;
-    if (PvProductTypeConfigRegistry::instance().allProducts().contains(type)) {
-        d = PvProductTypeConfigRegistry::instance().description(type);
-        files = sources.files(type.name());
-    } else if (PvLegacyProductTypeConfigRegistry::instance().allProducts().contains(type)) {
-        d = PvLegacyProductTypeConfigRegistry::instance().description(type);
-        legacy = true;
-        files = QStringList { sources.legacyFile(type.name()) };
-    } else {
+    const PvProductFacts facts = PvProductFacts::find(type, PvProductSources(context.dataRoot));
+    if (!facts.description)
         return context.unknownType(type.name());
-    }
-
-    QJsonObject object = PvDescriptionJson::describe(*d);
-    const QJsonArray fileArray = relative(files);
-    object.insert(QStringLiteral("file"), fileArray.isEmpty() ? QJsonValue(QString()) : fileArray.first());
-    object.insert(QStringLiteral("replaces"), QJsonArray(fileArray).size() > 1 ? relative(files.mid(1)) : QJsonArray());
-    object.insert(QStringLiteral("legacy"), legacy);
+    const PvProductTypeDescription* d = facts.description;
+    QJsonObject object = facts.json();
     const bool json = context.parser.isSet(PvToolOptions::json());
     if (pageCount < 0) {
         if (json)

@@ -1,9 +1,6 @@
-#include "PvDirectoryConfig.h"
 #include "PvProductTypeConfigRegistry.h"
-#include "PvProductTypeDescription.h"
+#include "PvSpiralStrip.h"
 #include "PvToolContext.h"
-
-#include <QImage>
 
 namespace {
 const QCommandLineOption outOption(QStringLiteral("out"), QStringLiteral("The PNG file to write."), QStringLiteral("file"));
@@ -20,17 +17,10 @@ int spiral(PvToolContext& context)
     const PvProductType type(arguments.at(0));
     if (!registry.allProducts().contains(type))
         return context.unknownType(type.name());
-    const PvSurroundingDescriptionList surroundings = registry.description(type)->surroundings();
-    const auto withSpiral = std::find_if(surroundings.cbegin(), surroundings.cend(),
-                                         [](const PvSurroundingDescription& s) { return s.spiralConfig().hasSpiral(); });
-    if (withSpiral == surroundings.cend()) {
-        context.err << "pvproducts: product type \"" << type.name() << "\" has no surrounding with a spiral\n";
-        return PvToolContext::Findings;
-    }
-    const QImage strip = withSpiral->spiralConfig().spiralImage(context.parser.isSet(verticalOption) ? Qt::Vertical : Qt::Horizontal);
+    QString whyNot;
+    const QImage strip = PvSpiralStrip::render(*registry.description(type), context.parser.isSet(verticalOption) ? Qt::Vertical : Qt::Horizontal, &whyNot);
     if (strip.isNull()) {
-        context.err << "pvproducts: the spiral strip is empty; is the loop picture \"" << withSpiral->spiralConfig().variant() << "\" in "
-                    << PvDirectoryConfig::instance().thumbnailsDir().path() << "?\n";
+        context.err << "pvproducts: " << whyNot << '\n';
         return PvToolContext::Findings;
     }
     const QString out = context.parser.value(outOption);

@@ -21,13 +21,13 @@ constexpr qreal spineThickness = 22;
 constexpr qreal legendHeight = 40;
 constexpr qreal legendWidth = 900;
 
-// Page type bits: spine, cover_back, cover, cover_front, the jacket parts.
-constexpr int coverMask = 0x1 | 0x20 | 0x40 | 0x80 | 0xF0000;
-constexpr int spineType = 0x1;
-constexpr int jacketMask = 0xF0000;
-constexpr int flapMask = 0x80000 | 0x10000;
-constexpr int panoramaPage = 0x200008;
-constexpr int openingPage = 0x400008;
+// Page type bits of the cover spread.
+constexpr int jacketMask = PvPageTypeJacketFlapRight | PvPageTypeJacketBack | PvPageTypeJacketFront | PvPageTypeJacketFlapLeft;
+constexpr int coverMask = PvPageTypeSpine | PvPageTypeCoverBack | PvPageTypeCover | PvPageTypeCoverFront | jacketMask;
+constexpr int spineType = PvPageTypeSpine;
+constexpr int flapMask = PvPageTypeJacketFlapLeft | PvPageTypeJacketFlapRight;
+constexpr int panoramaPage = PvPageTypePanoramaPage;
+constexpr int openingPage = PvPageTypeOpeningPage;
 // Alignment bits: where a page lies in its spread.
 constexpr int firstSide = 1 | 16; // left, top
 constexpr int middleSide = 4 | 64; // center, middle

@@ -15,7 +15,7 @@ constexpr qreal loopDepth = 12;
 constexpr qreal minimumPitch = 3;
 constexpr qreal holeDiameter = 9;
 constexpr qreal shadeDepth = 14;
-constexpr quint32 spineType = 0x1;
+constexpr quint32 spineType = PvPageTypeSpine;
 
 bool alongWidth(Qt::Edge edge)
 {

@@ -9,7 +9,8 @@ QString PvDiagnostic::severityName(Severity severity)
 
 QString PvDiagnostic::toString() const
 {
-    QString text = QStringLiteral("%1:%2:%3: %4: %5").arg(file).arg(line).arg(column).arg(severityName(severity), message);
+    // One arg() call: a "%1" in the file name or message must stay as written.
+    QString text = QStringLiteral("%1:%2:%3: %4: %5").arg(file, QString::number(line), QString::number(column), severityName(severity), message);
     if (!suggestion.isEmpty())
         text += QStringLiteral(" (did you mean \"%1\"?)").arg(suggestion);
     return text;

@@ -19,6 +19,7 @@ private Q_SLOTS:
     void collectorsNest();
     void typedReadersReportOnlyWhenListened();
     void loaderSaysWhy();
+    void textKeepsPercentSigns();
 };
 
 void TestDiagnostics::closest_data()
@@ -134,6 +135,17 @@ void TestDiagnostics::loaderSaysWhy()
     QCOMPARE(diagnostic.message, QStringLiteral("element \"pages\" opened on line 3 is closed by \"page\" on line 3; the file is skipped"));
     QCOMPARE(diagnostic.line, 3);
     QCOMPARE(diagnostic.column, 16);
+}
+
+void TestDiagnostics::textKeepsPercentSigns()
+{
+    PvDiagnostic diagnostic;
+    diagnostic.file = QStringLiteral("products/%2-%1.xml");
+    diagnostic.line = 3;
+    diagnostic.column = 4;
+    diagnostic.severity = PvDiagnostic::Error;
+    diagnostic.message = QStringLiteral("50%1 off");
+    QCOMPARE(diagnostic.toString(), QStringLiteral("products/%2-%1.xml:3:4: error: 50%1 off"));
 }
 
 QTEST_GUILESS_MAIN(TestDiagnostics)

@@ -8,7 +8,6 @@
 #include "PvXMLParser.h"
 
 #include <QStringList>
-#include <QStringTokenizer>
 #include <QtAlgorithms>
 
 #include <algorithm>
@@ -102,11 +101,8 @@ bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString&
 bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
     Rule rule;
-    // As PvPageTypeList reads it, without building one.
-    const auto* pageTypeTable = PvPageType().enumToStringTable();
-    const QString pageTypes = PvXMLParser::attribute(entry, QStringLiteral("pageType"));
-    for (const QStringView part : QStringView(pageTypes).tokenize(u','))
-        rule.pageTypes.append(pageTypeTable->decodeCSV(part));
+    for (const PvPageType& pageType : PvPageTypeList(PvXMLParser::attribute(entry, QStringLiteral("pageType"))))
+        rule.pageTypes.append(pageType.value());
     if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "PvDefaultTemplateKey.h"
-#include "PvPageTypeList.h"
+#include "PvPageType.h"
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>

@@ -7,6 +7,13 @@
 namespace {
 // Stands for every jig type that a product does not list.
 const PvJigEditorAbilities defaultAbilites;
+
+// The entry of \a type in the jigs, sorted by type, or where it would go.
+template <typename Iterator>
+Iterator findJig(Iterator begin, Iterator end, const PvJigType& type)
+{
+    return std::lower_bound(begin, end, type, [](const auto& entry, const PvJigType& wanted) { return entry.first < wanted; });
+}
 }
 
 PvProductEditorAbilitiesImpl::PvProductEditorAbilitiesImpl(const QDomElement& element)
@@ -31,7 +38,7 @@ void PvProductEditorAbilitiesImpl::readJigs(const QDomElement& jigsElement)
         if (!jigType.isValid())
             continue;
         // A repeated jig replaces the earlier one.
-        const auto it = std::lower_bound(jigs.begin(), jigs.end(), jigType, [](const auto& entry, const PvJigType& type) { return entry.first < type; });
+        const auto it = findJig(jigs.begin(), jigs.end(), jigType);
         if (it != jigs.end() && it->first == jigType)
             it->second = PvJigEditorAbilities(child);
         else
@@ -42,7 +49,7 @@ void PvProductEditorAbilitiesImpl::readJigs(const QDomElement& jigsElement)
 
 PvJigEditorAbilities PvProductEditorAbilitiesImpl::jigAbilities(const PvJigType& jigType) const
 {
-    const auto it = std::lower_bound(jigs.cbegin(), jigs.cend(), jigType, [](const auto& entry, const PvJigType& type) { return entry.first < type; });
+    const auto it = findJig(jigs.cbegin(), jigs.cend(), jigType);
     return it != jigs.cend() && it->first == jigType ? it->second : defaultAbilites;
 }
 

@@ -242,16 +242,9 @@ PvPageTypeList PvProductTypeDescription::pageTypes(unsigned int pageCount) const
 {
     PvPageTypeList pages;
     // Sized up front: a list that grows step by step copies every page at each step, and past
-    // a few thousand pages each step is a fresh mapping from the system.
-    qsizetype expected = 0;
-    for (const PvPageType& entry : m_pageTypes) {
-        const auto type = entry.toUnderlying();
-        const bool run = type == PvPageTypeRun || type == PvPageTypeRunRightLeft || type == PvPageTypeRunPairs || type == PvPageTypeRunLeftRight;
-        expected += run ? qsizetype(pageCount) : type == PvPageTypeRunYear ? 25 : type == PvPageTypeJacket ? 4 : 1;
-        if (expected >= maximumExpandedPages)
-            break;
-    }
-    pages.reserve(std::min(expected, maximumExpandedPages));
+    // a few thousand pages each step is a fresh mapping from the system. No entry yields
+    // more than the page count or a year's 25 pages.
+    pages.reserve(std::min(maximumExpandedPages, m_pageTypes.size() * qsizetype(std::max(pageCount, 25u))));
     bool complete = true;
     unsigned int remaining = pageCount;
     for (const PvPageType& entry : m_pageTypes) {

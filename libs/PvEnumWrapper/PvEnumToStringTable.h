@@ -43,6 +43,15 @@ QList<T> pvSplitEnumToBits(T value)
     return bits;
 }
 
+//! The bits pvSplitEnumToBits() names, as one value: \a value itself, or 0 when it is negative.
+template <typename T>
+constexpr std::underlying_type_t<T> pvSplitBitsMask(T value)
+{
+    using Unsigned = std::make_unsigned_t<std::underlying_type_t<T>>;
+    using Signed = std::make_signed_t<Unsigned>;
+    return static_cast<Signed>(static_cast<Unsigned>(value)) > 0 ? static_cast<std::underlying_type_t<T>>(value) : 0;
+}
+
 /*!
  * The texts of one enumeration: built once per enumeration by its wrapper's fillTable() and
  * shared for the life of the process. Decoding ignores case and surrounding blanks; encoding

@@ -1,5 +1,7 @@
 #include "PvArticleVariants.h"
 
+#include "PvStringPool.h"
+
 #include <QDebug>
 #include <QStringList>
 
@@ -12,6 +14,7 @@ PvArticleVariants::PvArticleVariants(const QString& text)
     }
     m_ids.sort();
     m_ids.removeDuplicates();
+    m_ids = PvStringPool::shared(m_ids);
 }
 
 QString PvArticleVariants::toString() const

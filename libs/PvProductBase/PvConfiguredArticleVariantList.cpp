@@ -1,17 +1,25 @@
 #include "PvConfiguredArticleVariantList.h"
 
+#include "PvStringPool.h"
+#include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
 PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const QDomElement& product)
+    : PvConfiguredArticleVariantList(PvXMLChildren(product))
+{
+}
+
+PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const PvXMLChildren& product)
 {
     const QString variantTag = QStringLiteral("variant");
-    for (QDomElement list = product.firstChildElement(QStringLiteral("variants")); !list.isNull(); list = list.nextSiblingElement(QStringLiteral("variants"))) {
+    for (const QDomElement& list : product.all(u"variants")) {
         for (QDomElement v = list.firstChildElement(variantTag); !v.isNull(); v = v.nextSiblingElement(variantTag)) {
-            m_variants.append({ PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true),
-                                PvXMLParser::attribute(v, QStringLiteral("name")),
+            m_variants.append({ PvStringPool::shared(PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true)),
+                                PvStringPool::shared(PvXMLParser::attribute(v, QStringLiteral("name"))),
                                 PvXMLParser::boolAttribute(v, QStringLiteral("default"), false) });
         }
     }
+    m_variants.squeeze();
 }
 
 PvConfiguredArticleVariantList::Variant PvConfiguredArticleVariantList::defaultVariant() const

@@ -5,9 +5,12 @@
 
 #include "PvPageTypeList.h"
 #include "PvProductPropertiesLogging.h"
+#include "PvStringPool.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
+#include <QStringTokenizer>
+#include <QVarLengthArray>
 #include <QtAlgorithms>
 
 #include <algorithm>
@@ -108,23 +111,24 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
     PvProductDiagnostics::checkEnum<PvPageAlignment>(entry, QStringLiteral("alignment"), "alignment");
     const PvPageAlignment alignments = pvEnumAttribute(entry, QStringLiteral("alignment"), pvEveryAlignment());
-    for (const PvPageAlignmentEnum bit : alignments.splitToBitsSorted())
-        rule.alignments |= bit;
+    rule.alignments = pvSplitBitsMask(alignments.value());
     rule.pageNumber = PvXMLParser::intAttribute(entry, QStringLiteral("pageNr"), -1);
     rule.scenePageCount = PvXMLParser::intAttribute(entry, QStringLiteral("scenePageCount"), -1);
 
     QString layoutDefault;
     QString backgroundDefault = houseBackground();
-    if (entry.hasAttribute(QStringLiteral("templates"))) {
-        const QStringList templates = entry.attribute(QStringLiteral("templates")).split(QLatin1Char(','), Qt::SkipEmptyParts);
-        if (templates.size() == 2)
-            layoutDefault = templates.at(1);
-        if (!templates.isEmpty())
-            backgroundDefault = templates.first();
+    if (const std::optional<QString> templates = PvXMLParser::optionalAttribute(entry, QStringLiteral("templates"))) {
+        QVarLengthArray<QStringView, 4> parts;
+        for (const QStringView part : QStringView(*templates).tokenize(u',', Qt::SkipEmptyParts))
+            parts.append(part);
+        if (parts.size() == 2)
+            layoutDefault = parts.at(1).toString();
+        if (!parts.isEmpty())
+            backgroundDefault = parts.first().toString();
     }
-    rule.names[PvDefaultTemplateTypeLayout] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());
-    rule.names[PvDefaultTemplateTypeBackground] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
-    rule.names[PvDefaultTemplateTypeDesign] = removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design")));
+    rule.names[PvDefaultTemplateTypeLayout] = PvStringPool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed()));
+    rule.names[PvDefaultTemplateTypeBackground] = PvStringPool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed()));
+    rule.names[PvDefaultTemplateTypeDesign] = PvStringPool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design"))));
 
     const qsizetype entries = rule.entryCount();
     if (entries == 0)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "PvPageAlignment.h"
+#include "PvXMLParser.h"
 
 #include <QDomElement>
 
@@ -11,7 +12,8 @@
 template <typename Wrapper>
 Wrapper pvEnumAttribute(const QDomElement& element, const QString& name, const Wrapper& fallback)
 {
-    return element.hasAttribute(name) ? Wrapper(element.attribute(name)) : fallback;
+    const std::optional<QString> text = PvXMLParser::optionalAttribute(element, name);
+    return text ? Wrapper(*text) : fallback;
 }
 
 //! What a missing "alignment" stands for: "left,right,top,bottom,center,middle".

@@ -2,6 +2,7 @@
 
 #include "PvProductDiagnostics.h"
 
+#include "PvStringPool.h"
 #include "PvXMLParser.h"
 
 #include <QMap>
@@ -47,15 +48,16 @@ PvJigEditorAbilitiesImpl::Categories readCategories(const QDomElement& element)
     PvJigEditorAbilitiesImpl::Categories entry;
     const PvPageType pageType(PvXMLParser::attribute(element, QStringLiteral("pageType")));
     // Blanks around names are kept: they are part of the category names as written.
-    entry.text = element.text();
-    for (const QStringView name : QStringView(entry.text).tokenize(u',', Qt::SkipEmptyParts)) {
-        if (PvProductDiagnostics::listening() && name != name.trimmed())
-            PvProductDiagnostics::report(PvDiagnostic::Error, element,
-                                         QStringLiteral("the text of \"categories\": %1 has blanks around it, so it names no category").arg(PvDiagnostics::quoted(name.toString())));
+    entry.text = PvStringPool::shared(element.text());
+    if (PvProductDiagnostics::listening()) {
+        for (const QStringView name : QStringView(entry.text).tokenize(u',', Qt::SkipEmptyParts)) {
+            if (name != name.trimmed())
+                PvProductDiagnostics::report(PvDiagnostic::Error, element,
+                                             QStringLiteral("the text of \"categories\": %1 has blanks around it, so it names no category").arg(PvDiagnostics::quoted(name.toString())));
+        }
     }
     PvProductDiagnostics::checkEnum<PvPageType>(element, QStringLiteral("pageType"), "page type");
-    for (const PvPageTypeEnum bit : pageType.splitToBitsSorted())
-        entry.pageTypes |= bit;
+    entry.pageTypes = pvSplitBitsMask(pageType.value());
     return entry;
 }
 }

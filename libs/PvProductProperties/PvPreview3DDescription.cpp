@@ -1,6 +1,8 @@
 #include "PvPreview3DDescription.h"
 
 #include "PvBasisSettings.h"
+#include "PvStringPool.h"
+#include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
 #include <QCoreApplication>
@@ -51,7 +53,7 @@ public:
 
 void PvPreview3DDescriptionImpl::readMesh(const QDomElement& element)
 {
-    mesh = PvXMLParser::attribute(element, QStringLiteral("file"));
+    mesh = PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("file")));
     flipY = PvXMLParser::boolAttribute(element, QStringLiteral("flipY"), false);
     flipX = PvXMLParser::boolAttribute(element, QStringLiteral("flipX"), false);
     pagesPer3DModel = mesh.isEmpty() ? 0 : PvXMLParser::intAttribute(element, QStringLiteral("pagesPer3DModel"), 1);
@@ -88,14 +90,14 @@ void PvPreview3DDescription::init(const QDomElement& product)
         return;
     }
     d.reset(new PvPreview3DDescriptionImpl);
-    d->readMesh(preview.firstChildElement(QStringLiteral("mesh")));
-    d->cupRingRect = PvXMLParser::readRectF(preview.firstChildElement(QStringLiteral("cupRing")), QRectF(0, 0, 0, 0));
-    const QString targetName = QStringLiteral("textureTarget");
-    for (QDomElement target = preview.firstChildElement(targetName); !target.isNull(); target = target.nextSiblingElement(targetName))
+    const PvXMLChildren children(preview);
+    d->readMesh(children.first(u"mesh"));
+    d->cupRingRect = PvXMLParser::readRectF(children.first(u"cupRing"), QRectF(0, 0, 0, 0));
+    for (const QDomElement& target : children.all(u"textureTarget"))
         d->textureTargets.append(PvTextureTarget(target));
-    d->camera = readCamera(preview.firstChildElement(QStringLiteral("camera")));
-    d->cameraBig = readCamera(preview.firstChildElement(QStringLiteral("cameraBig")));
-    d->windowSize = PvXMLParser::readSize(preview.firstChildElement(QStringLiteral("windowSize")), QSize(-1, -1));
+    d->camera = readCamera(children.first(u"camera"));
+    d->cameraBig = readCamera(children.first(u"cameraBig"));
+    d->windowSize = PvXMLParser::readSize(children.first(u"windowSize"), QSize(-1, -1));
 
     if (!d->mesh.isEmpty() && d->textureTargets.isEmpty()) {
         qWarning().noquote() << QStringLiteral("3D preview of product \"%1\" has a mesh but no textureTarget; the product gets no 3D preview.")

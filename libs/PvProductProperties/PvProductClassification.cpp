@@ -2,6 +2,8 @@
 
 #include "PvProductDiagnostics.h"
 
+#include "PvStringPool.h"
+#include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
 #include <cmath>
@@ -45,15 +47,20 @@ bool isInch(const PvDistanceUnit& unit)
 PvProductClassification::PvProductClassification() = default;
 
 PvProductClassification::PvProductClassification(const QDomElement& product)
-    : m_productType(PvXMLParser::attribute(product, QStringLiteral("name"), QString(), true))
+    : PvProductClassification(PvXMLChildren(product))
 {
-    // Trimmed like the description's own product type, so that both name the same product.
-    const QDomElement classification = product.firstChildElement(QStringLiteral("classification"));
-    m_cmName = PvXMLParser::attribute(classification, QStringLiteral("cm"));
-    m_inchName = PvXMLParser::attribute(classification, QStringLiteral("inch"));
+}
+
+// Trimmed like the description's own product type, so that both name the same product.
+PvProductClassification::PvProductClassification(const PvXMLChildren& product)
+    : m_productType(PvXMLParser::attribute(product.parent(), QStringLiteral("name"), QString(), true))
+{
+    const QDomElement classification = product.first(u"classification");
+    m_cmName = PvStringPool::shared(PvXMLParser::attribute(classification, QStringLiteral("cm")));
+    m_inchName = PvStringPool::shared(PvXMLParser::attribute(classification, QStringLiteral("inch")));
     // Older product files were written in UTF-8 but read as Latin-1; going back to the bytes
     // repairs them. A correct value outside ASCII does not survive this, and never did.
-    m_group = PvProductClassificationGroup(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1()));
+    m_group = PvProductClassificationGroup(PvStringPool::shared(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1())));
     calculateSize();
     if (PvProductDiagnostics::listening())
         reportMistakes(classification);

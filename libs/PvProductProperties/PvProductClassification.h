@@ -9,6 +9,8 @@
 #include <QSize>
 #include <QString>
 
+class PvXMLChildren;
+
 /*!
  * Where a wall decor product sits in the choosers: its material group and its size, named
  * in centimetres and in inches, read from the product's "classification" child.
@@ -19,6 +21,8 @@ public:
     PvProductClassification();
     //! Reads the "product" element \a product and its first child "classification".
     explicit PvProductClassification(const QDomElement& product);
+    //! The same from the listed children of "product".
+    explicit PvProductClassification(const PvXMLChildren& product);
     //! Plain values.
     //! @{
     PvProductClassification(const PvProductClassification& other);

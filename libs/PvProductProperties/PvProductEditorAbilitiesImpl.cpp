@@ -1,5 +1,6 @@
 #include "PvProductEditorAbilitiesImpl.h"
 
+#include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
 #include <algorithm>
@@ -20,13 +21,14 @@ PvProductEditorAbilitiesImpl::PvProductEditorAbilitiesImpl(const QDomElement& el
 {
     if (element.tagName() != QLatin1String("editorAbilities"))
         return;
-    hasAssistant = PvXMLParser::boolAttribute(element.firstChildElement(QStringLiteral("assistant")), QStringLiteral("enabled"), false);
+    const PvXMLChildren children(element);
+    hasAssistant = PvXMLParser::boolAttribute(children.first(u"assistant"), QStringLiteral("enabled"), false);
     convertable = PvXMLParser::boolAttribute(element, QStringLiteral("convertable"), true);
-    pageNamingStyle = PvPageNamingStyle(element.firstChildElement(QStringLiteral("pageNamingStyle")).text());
-    userPageTilt = PvUserPageTiltConfig(element.firstChildElement(QStringLiteral("pageTilt")));
+    pageNamingStyle = PvPageNamingStyle(children.first(u"pageNamingStyle").text());
+    userPageTilt = PvUserPageTiltConfig(children.first(u"pageTilt"));
     editorStartPage = PvXMLParser::intText(element, QStringLiteral("startPage"), 0);
-    dateRangeConstraint = PvDateRangeConstraint(element.firstChildElement(QStringLiteral("dateRangeConstraint")));
-    readJigs(element.firstChildElement(QStringLiteral("jigs")));
+    dateRangeConstraint = PvDateRangeConstraint(children.first(u"dateRangeConstraint"));
+    readJigs(children.first(u"jigs"));
 }
 
 void PvProductEditorAbilitiesImpl::readJigs(const QDomElement& jigsElement)

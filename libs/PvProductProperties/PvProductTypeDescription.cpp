@@ -3,10 +3,10 @@
 #include "PvProductDiagnostics.h"
 #include "PvProductPropertiesLogging.h"
 #include "PvSurroundingKey.h"
+#include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
-#include <QVarLengthArray>
 
 #include <algorithm>
 #include <limits>
@@ -50,56 +50,33 @@ PvPageAlignment horizontalOr(bool horizontal, PvPageAlignmentEnum side, PvPageAl
 }
 }
 
-// The children of "product" with their tags, from one walk: finding each by name walks all
-// children again, copying a node handle at every step.
-struct PvProductTypeDescription::Elements
-{
-    explicit Elements(const QDomElement& element)
-        : product(element)
-    {
-        for (QDomElement child = element.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
-            children.append({ child.tagName(), child });
-    }
-
-    //! The first child named \a tag, as firstChildElement() finds it.
-    [[nodiscard]] QDomElement child(const QString& tag) const
-    {
-        for (const auto& [name, element] : children) {
-            if (name == tag)
-                return element;
-        }
-        return {};
-    }
-
-    QDomElement product;
-    QVarLengthArray<std::pair<QString, QDomElement>, 32> children;
-};
-
 PvProductTypeDescription::PvProductTypeDescription() = default;
 
 PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
 {
-    const Elements elements(product);
+    // The children of "product" are listed once: finding each by name would walk them all
+    // again, copying a node handle at every step.
+    const PvXMLChildren elements(product);
     // The order of these steps is the order product files are read in; later steps may
     // depend on earlier ones (the surroundings on the product type, for one).
-    m_classification = PvProductClassification(product);
+    m_classification = PvProductClassification(elements);
     initIdentity(product);
     initArticleClass(product);
     initImageFX(product);
     m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding")));
     PvProductDiagnostics::checkEnum<PvCoverType>(product, QStringLiteral("binding"), "cover type");
-    initLayout(product);
+    initLayout(elements);
     initRedirectsAndDefaults(elements);
-    initVariants(product);
+    m_variants = PvConfiguredArticleVariantList(elements);
     initPages(elements);
     initPageNumbering(elements);
-    m_extraProductionContents = PvProductionExtraPageGroupList(elements.child(QStringLiteral("extra_production_pages")));
+    m_extraProductionContents = PvProductionExtraPageGroupList(elements.first(u"extra_production_pages"));
     m_foldSafetyMargin = decodeFoldSafetyMargin(product);
     initReplacement(product);
-    m_editorAbilities = PvProductEditorAbilities(elements.child(QStringLiteral("editorAbilities")));
+    m_editorAbilities = PvProductEditorAbilities(elements.first(u"editorAbilities"));
     initPricListCategories(elements);
     initbarcodeDefinitions(elements);
-    initPreview3D(product);
+    m_preview3DDescription = PvPreview3DDescription(elements.first(u"preview3D"));
 }
 
 PvProductTypeDescription::~PvProductTypeDescription() = default;
@@ -117,8 +94,9 @@ void PvProductTypeDescription::initArticleClass(const QDomElement& product)
 {
     m_articleClass = PvArticleClass(PvXMLParser::attribute(product, QStringLiteral("class"), QStringLiteral("unknown"), true));
     PvProductDiagnostics::checkEnum<PvArticleClass>(product, QStringLiteral("class"), "article class");
-    if (m_articleClass.splitToBits().size() != 1) {
-        if (m_articleClass.splitToBits().size() > 1)
+    const int classes = qPopulationCount(quint64(pvSplitBitsMask(m_articleClass.value())));
+    if (classes != 1) {
+        if (classes > 1)
             PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("attribute \"class\": a product has exactly one article class"), QStringLiteral("class"));
         m_articleClass = PvArticleClass();
     }
@@ -131,36 +109,32 @@ void PvProductTypeDescription::initImageFX(const QDomElement& product)
     m_canHaveBorder = m_canHaveShadow = !m_imageFX.hasAnyOf(PvImageFXsGrayscale);
 }
 
-void PvProductTypeDescription::initLayout(const QDomElement& product)
+void PvProductTypeDescription::initLayout(const PvXMLChildren& elements)
 {
+    const QDomElement& product = elements.parent();
     m_horizontalPages = PvXMLParser::boolAttribute(product, QStringLiteral("horizontalPages"), true);
     m_productAlignment = PvProductAlignmentStyle(PvXMLParser::attribute(product, QStringLiteral("productAlignment")));
     PvProductDiagnostics::checkEnum<PvProductAlignmentStyle>(product, QStringLiteral("productAlignment"), "product alignment style");
     m_mustPaintMiralLogoOnSpine = PvXMLParser::boolAttribute(product, QStringLiteral("hasLogoOnSpine"), false);
-    m_surroundings = PvSurroundingDescriptionList(m_productType, product);
+    m_surroundings = PvSurroundingDescriptionList(m_productType, elements);
 }
 
-void PvProductTypeDescription::initRedirectsAndDefaults(const Elements& product)
+void PvProductTypeDescription::initRedirectsAndDefaults(const PvXMLChildren& product)
 {
-    m_tiltRedirects = PvPageTiltRedirectList(product.child(QStringLiteral("rotationredirects")));
-    m_contentDropRedirects = PvContentDropRedirectList(product.child(QStringLiteral("contentredirects")));
-    m_defaultTemplates = PvDefaultTemplateMap(product.child(QStringLiteral("defaults")));
+    m_tiltRedirects = PvPageTiltRedirectList(product.first(u"rotationredirects"));
+    m_contentDropRedirects = PvContentDropRedirectList(product.first(u"contentredirects"));
+    m_defaultTemplates = PvDefaultTemplateMap(product.first(u"defaults"));
     // Deliberately 270 when the product says nothing about tilt.
-    m_tiltAngle = PvXMLParser::readAngle(product.child(QStringLiteral("tilt")), QStringLiteral("angle"), 270);
+    m_tiltAngle = PvXMLParser::readAngle(product.first(u"tilt"), QStringLiteral("angle"), 270);
 }
 
-void PvProductTypeDescription::initVariants(const QDomElement& product)
+void PvProductTypeDescription::initPages(const PvXMLChildren& product)
 {
-    m_variants = PvConfiguredArticleVariantList(product);
-}
-
-void PvProductTypeDescription::initPages(const Elements& product)
-{
-    m_productionNumbering = decodeIntList(product.child(QStringLiteral("productionnumbering")));
-    m_pagesWithContent = decodeIntList(product.child(QStringLiteral("pageswithcontent")));
+    m_productionNumbering = decodeIntList(product.first(u"productionnumbering"));
+    m_pagesWithContent = decodeIntList(product.first(u"pageswithcontent"));
     // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
     // pageTypes(n) warn about the product.
-    const QDomElement pagesElement = product.child(QStringLiteral("pages"));
+    const QDomElement pagesElement = product.first(u"pages");
     m_pageTypes = PvPageTypeList(pagesElement.text());
     PvProductDiagnostics::checkEnum<PvPageType>(pagesElement, QString(), "page type", true);
 
@@ -172,9 +146,9 @@ void PvProductTypeDescription::initPages(const Elements& product)
     m_hasTextOnSpine = m_hasSpine && !pages.containsMatch(PvPageTypeEnum(PvPageTypeCoverInsideFront | PvPageTypeCoverInsideBack));
 }
 
-void PvProductTypeDescription::initPageNumbering(const Elements& product)
+void PvProductTypeDescription::initPageNumbering(const PvXMLChildren& product)
 {
-    const QDomElement config = product.child(QStringLiteral("pageNumberConfig"));
+    const QDomElement config = product.first(u"pageNumberConfig");
     const QDomElement margin = child(config, QStringLiteral("margin"));
     const PvDistanceUnit unit(PvTenthMillimetre);
     m_pageNumberVerticalIndent = PvXMLParser::readDistance(margin, QStringLiteral("verticalMargin"), 50.0, unit);
@@ -189,21 +163,19 @@ void PvProductTypeDescription::initReplacement(const QDomElement& product)
     PvProductDiagnostics::checkEnum<PvXMLRewriterStrategy>(product, QStringLiteral("conversionStrategy"), "conversion strategy");
 }
 
-void PvProductTypeDescription::initPricListCategories(const Elements& product)
+void PvProductTypeDescription::initPricListCategories(const PvXMLChildren& product)
 {
-    const QDomElement category = child(product.child(QStringLiteral("pricelist")), QStringLiteral("category"));
-    if (!category.isNull())
-        m_priceListCategory = category.text();
+    const QDomElement category = child(product.first(u"pricelist"), QStringLiteral("category"));
+    if (category.isNull())
+        return;
+    m_priceListCategory = category.text();
+    // text() leaves room to grow; the description keeps it for good.
+    m_priceListCategory.squeeze();
 }
 
-void PvProductTypeDescription::initbarcodeDefinitions(const Elements& product)
+void PvProductTypeDescription::initbarcodeDefinitions(const PvXMLChildren& product)
 {
-    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(product.child(QStringLiteral("barcodes")), PvDistanceUnit(PvTenthMillimetre));
-}
-
-void PvProductTypeDescription::initPreview3D(const QDomElement& product)
-{
-    m_preview3DDescription = PvPreview3DDescription(product);
+    m_barcodeDefinitions = PvBarcodeDefinitionList::createFromProductsXML(product.first(u"barcodes"), PvDistanceUnit(PvTenthMillimetre));
 }
 
 QList<int> PvProductTypeDescription::decodeIntList(const QDomElement& element)

@@ -27,6 +27,7 @@
 #include <QString>
 
 class PvSurroundingKey;
+class PvXMLChildren;
 
 //! Production numbers of pages, by page position.
 using PvProductionNumberingList = QList<int>;
@@ -196,19 +197,16 @@ public:
     [[nodiscard]] static int decodeFoldSafetyMargin(const QDomElement& element);
 
 private:
-    struct Elements;
     void initIdentity(const QDomElement& product);
     void initArticleClass(const QDomElement& product);
     void initImageFX(const QDomElement& product);
-    void initLayout(const QDomElement& product);
-    void initRedirectsAndDefaults(const Elements& product);
-    void initVariants(const QDomElement& product);
-    void initPages(const Elements& product);
-    void initPageNumbering(const Elements& product);
+    void initLayout(const PvXMLChildren& elements);
+    void initRedirectsAndDefaults(const PvXMLChildren& product);
+    void initPages(const PvXMLChildren& product);
+    void initPageNumbering(const PvXMLChildren& product);
     void initReplacement(const QDomElement& product);
-    void initPricListCategories(const Elements& product);
-    void initbarcodeDefinitions(const Elements& product);
-    void initPreview3D(const QDomElement& product);
+    void initPricListCategories(const PvXMLChildren& product);
+    void initbarcodeDefinitions(const PvXMLChildren& product);
 
     PvProductClassification m_classification;
     PvProductType m_productType;

@@ -4,6 +4,7 @@
 #include "PvPlatformIndependent.h"
 #include "PvProductDiagnostics.h"
 #include "PvProductTypeDescription.h"
+#include "PvStringPool.h"
 #include "PvXMLLoader.h"
 
 #include <QDebug>
@@ -17,6 +18,8 @@ PvProductTypeDescriptionReader::~PvProductTypeDescriptionReader() = default;
 
 QHash<PvProductType, PvProductTypeDescription*> PvProductTypeDescriptionReader::readDir() const
 {
+    // Descriptions of one directory repeat each other's paths and names; they keep one copy.
+    const PvStringPool pool;
     QHash<PvProductType, PvProductTypeDescription*> result;
     // Generous on purpose: the hash never grows while a directory is read.
     result.reserve(100000);

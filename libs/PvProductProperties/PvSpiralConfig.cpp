@@ -5,6 +5,7 @@
 #include "PvCSSSkinManager.h"
 #include "PvDirectoryConfig.h"
 #include "PvProductPropertiesLogging.h"
+#include "PvStringPool.h"
 #include "PvXMLParser.h"
 
 #include <QColor>
@@ -90,7 +91,7 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     , m_loopDistance(PvXMLParser::intAttribute(element, QStringLiteral("loopDistance"), 30))
 {
     const QString defaultVariant = QStringLiteral("spiralbinding-one-loop-vertical.png");
-    m_variant = confinedPath(element, QStringLiteral("variant"), defaultVariant);
+    m_variant = PvStringPool::shared(confinedPath(element, QStringLiteral("variant"), defaultVariant));
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
     if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
         PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
@@ -125,7 +126,7 @@ void PvSpiralConfig::readLoopImages(const QDomElement& element)
         const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"));
         const QString file = confinedPath(child, QStringLiteral("imagePath"), QString());
         if (!colour.isEmpty() && !file.isEmpty())
-            m_loopImages.insert(colour, file);
+            m_loopImages.insert(PvStringPool::shared(colour), PvStringPool::shared(file));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "PvEnumAttribute.h"
 #include "PvSurroundingKey.h"
+#include "PvStringPool.h"
 #include "PvXMLParser.h"
 
 #include <QDomAttr>
@@ -67,8 +68,8 @@ void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
     paintOnTop = PvXMLParser::boolAttribute(element, QStringLiteral("paintOnTop"), true);
     canBeHiddenByUser = PvXMLParser::boolAttribute(element, QStringLiteral("canBeHiddenByUser"), false);
     hideGrafikInPreview = PvXMLParser::boolAttribute(element, QStringLiteral("hideGrafikInPreview"), false);
-    image = PvXMLParser::attribute(element, QStringLiteral("image"));
-    imageSpotColor = PvXMLParser::attribute(element, QStringLiteral("imageSpotColor"));
+    image = PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("image")));
+    imageSpotColor = PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("imageSpotColor")));
     editableArea = PvXMLParser::readRect(element);
     hasBindingShade = PvXMLParser::boolAttribute(element, QStringLiteral("hasbindingshade"), false);
     hasSpineFold = PvXMLParser::boolAttribute(element, QStringLiteral("hasspinefold"), false);
@@ -87,8 +88,19 @@ void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
 
 void PvSurroundingDescriptionImpl::readChildren(const QDomElement& element)
 {
-    calendarHoleConfig = PvCalendarHoleConfig(element.firstChildElement(QStringLiteral("hole")));
-    const QDomElement spirals = element.firstChildElement(QStringLiteral("spirals"));
+    // Most surroundings have no children; the others are read in one walk, the first "hole"
+    // and the first "spirals" counting.
+    QDomElement hole;
+    QDomElement spirals;
+    for (QDomElement child = element.firstChildElement(); !child.isNull() && (hole.isNull() || spirals.isNull());
+         child = child.nextSiblingElement()) {
+        const QString tag = child.tagName();
+        if (hole.isNull() && tag == QLatin1String("hole"))
+            hole = child;
+        else if (spirals.isNull() && tag == QLatin1String("spirals"))
+            spirals = child;
+    }
+    calendarHoleConfig = PvCalendarHoleConfig(hole);
     if (!spirals.isNull())
         spiralConfig = std::make_shared<const PvSpiralConfig>(spirals);
 }

@@ -1,14 +1,19 @@
 #include "PvSurroundingDescriptionList.h"
 
 #include "PvSurroundingKey.h"
+#include "PvXMLChildren.h"
 
 #include <algorithm>
 
 PvSurroundingDescriptionList::PvSurroundingDescriptionList(const PvProductType& productType, const QDomElement& product)
+    : PvSurroundingDescriptionList(productType, PvXMLChildren(product))
 {
-    const QString blockName = QStringLiteral("surroundings");
+}
+
+PvSurroundingDescriptionList::PvSurroundingDescriptionList(const PvProductType& productType, const PvXMLChildren& product)
+{
     const QString itemName = QStringLiteral("surrounding");
-    for (QDomElement block = product.firstChildElement(blockName); !block.isNull(); block = block.nextSiblingElement(blockName)) {
+    for (const QDomElement& block : product.all(u"surroundings")) {
         for (QDomElement item = block.firstChildElement(itemName); !item.isNull(); item = item.nextSiblingElement(itemName))
             append(PvSurroundingDescription(productType, item));
     }

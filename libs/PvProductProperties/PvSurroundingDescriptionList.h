@@ -8,6 +8,7 @@
 
 class PvProductType;
 class PvSurroundingKey;
+class PvXMLChildren;
 
 /*! The surroundings of one product in file order; finds the one to draw on a page. */
 class PVPRODUCTPROPERTIES_EXPORT PvSurroundingDescriptionList : public QList<PvSurroundingDescription>
@@ -16,6 +17,8 @@ public:
     PvSurroundingDescriptionList() = default;
     //! Every "surrounding" of every "surroundings" child of \a product, in document order.
     PvSurroundingDescriptionList(const PvProductType& productType, const QDomElement& product);
+    //! The same from the listed children of "product".
+    PvSurroundingDescriptionList(const PvProductType& productType, const PvXMLChildren& product);
 
     /*!
      * The first description suitable for \a key. When none is and the key names variants,

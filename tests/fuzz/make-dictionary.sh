@@ -17,7 +17,7 @@ generate() {
         printf '"%s"\n' "$number"
     done
     cat "$root"/libs/PvProductProperties/*.cpp "$root"/libs/PvProductBase/*.cpp "$root"/libs/PvXML/*.cpp \
-        | grep -oE '(QStringLiteral|QLatin1String|QLatin1StringView)\("[^"]*"\)|\{ *"[^"]*" *,' \
+        | grep -oE '(QStringLiteral|QLatin1String|QLatin1StringView)\("[^"]*"\)|\bu"[^"]*"|\{ *"[^"]*" *,' \
         | grep -oE '"[^"]*"' \
         | grep -E '^"[A-Za-z_][A-Za-z0-9_.-]{1,39}"$' \
         | LC_ALL=C sort -u

@@ -10,8 +10,10 @@
 #include "PvProductChecker.h"
 #include "PvProductCheckerRegistry.h"
 #include "PvSingleton.h"
+#include "PvStringPool.h"
 #include "PvXMLBasedRegistry.h"
 #include "PvXMLBuilder.h"
+#include "PvXMLChildren.h"
 #include "PvXMLLoader.h"
 #include "PvXMLParser.h"
 
@@ -112,6 +114,9 @@ private Q_SLOTS:
     void intAttribute_data();
     void intAttribute();
     void otherReaders();
+    void optionalAttribute();
+    void childList();
+    void stringPool();
     void rectReaders_data();
     void rectReaders();
     void builder();
@@ -192,6 +197,69 @@ void TestPlatform::otherReaders()
     QCOMPARE(PvXMLParser::intText(e, QStringLiteral("n"), 3), 17);
     QCOMPARE(PvXMLParser::intText(e, QStringLiteral("m"), 3), 3);
     QCOMPARE(PvXMLParser::intText(e, QStringLiteral("missing"), 3), 3);
+}
+
+void TestPlatform::optionalAttribute()
+{
+    const QDomElement e = element(QStringLiteral("<e empty='' text='a b'/>"));
+    QCOMPARE(PvXMLParser::optionalAttribute(e, QStringLiteral("empty")), std::optional<QString>(QString()));
+    QCOMPARE(PvXMLParser::optionalAttribute(e, QStringLiteral("text")), std::optional<QString>(QStringLiteral("a b")));
+    QCOMPARE(PvXMLParser::optionalAttribute(e, QStringLiteral("missing")), std::nullopt);
+    QCOMPARE(PvXMLParser::optionalAttribute(QDomElement(), QStringLiteral("text")), std::nullopt);
+    // A present empty attribute is the empty text, not the default.
+    QCOMPARE(PvXMLParser::attribute(e, QStringLiteral("empty"), QStringLiteral("dflt")), QString());
+}
+
+void TestPlatform::childList()
+{
+    const QDomElement e = element(QStringLiteral("<e>text<a n='1'/><!-- c --><b/><a n='2'/>more<c/><a n='3'/></e>"));
+    const PvXMLChildren children(e);
+    QCOMPARE(children.parent(), e);
+    for (const QString& tag : { QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d") })
+        QCOMPARE(children.first(tag), e.firstChildElement(tag));
+    QStringList numbers;
+    for (const QDomElement& a : children.all(u"a"))
+        numbers.append(a.attribute(QStringLiteral("n")));
+    QCOMPARE(numbers, QStringList({ QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3") }));
+    QVERIFY(PvXMLChildren(QDomElement()).all(u"a").isEmpty());
+}
+
+void TestPlatform::stringPool()
+{
+    // Two equal strings that do not share their characters, as two files' attributes would be.
+    const QString first = QStringLiteral("surroundings/") + QStringLiteral("shade.png");
+    const QString second = QStringLiteral("surroundings/shade") + QStringLiteral(".png");
+    QVERIFY(first.constData() != second.constData());
+    QCOMPARE(PvStringPool::shared(second).constData(), second.constData());
+
+    QString grown = QStringLiteral("Urlaub");
+    grown.reserve(100);
+    {
+        PvStringPool pool;
+        const QString a = PvStringPool::shared(first);
+        const QString b = PvStringPool::shared(second);
+        QCOMPARE(b, second);
+        QCOMPARE(b.constData(), a.constData());
+        {
+            // A pool made inside another one leaves the sharing to the outer pool.
+            PvStringPool inner;
+            QCOMPARE(PvStringPool::shared(QString(second)).constData(), a.constData());
+            QCOMPARE(inner.size(), 0);
+        }
+        QCOMPARE(PvStringPool::shared(second).constData(), a.constData());
+
+        // Kept strings hold no spare room.
+        const QString kept = PvStringPool::shared(grown);
+        QCOMPARE(kept, grown);
+        QCOMPARE(kept.capacity(), kept.size());
+
+        const QStringList ids = { QStringLiteral("matt"), first };
+        const QStringList same = PvStringPool::shared(QStringList({ QStringLiteral("matt"), second }));
+        QCOMPARE(PvStringPool::shared(ids).constData(), same.constData());
+        QCOMPARE(same.at(1).constData(), a.constData());
+        QCOMPARE(pool.size(), 4);
+    }
+    QCOMPARE(PvStringPool::shared(second).constData(), second.constData());
 }
 
 void TestPlatform::rectReaders_data()

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QSemaphore>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <array>
@@ -86,6 +87,7 @@ private Q_SLOTS:
     void lookups_data();
     void lookups();
     void allAvailableProducts();
+    void sharedStrings();
     void legacy_data();
     void legacy();
     void singletonLoadsOnce();
@@ -161,6 +163,39 @@ void TestRegistry::allAvailableProducts()
     // Every checker of the kind must agree.
     checkers.registerChecker(&updatesOnly);
     QCOMPARE(sortedNames(m_registry->allAvailableProducts()), QLatin1String("book-a4"));
+}
+
+void TestRegistry::sharedStrings()
+{
+    // Products of one family repeat their pictures and names; loaded together they keep one
+    // copy of each, and what they answer stays their own.
+    QTemporaryDir dir;
+    QVERIFY(dir.isValid());
+    for (const char* name : { "first", "second" }) {
+        QFile file(dir.filePath(QString::fromLatin1(name) + QLatin1String(".xml")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        const QByteArray product = QByteArray(name);
+        file.write("<products><product name='" + product + "' class='photobook' binding='hardcover'><pages>cover_front,run</pages>"
+                   + "<surroundings><surrounding pageType='page' image='shade-" + product + "-only.png'/>"
+                   + "<surrounding pageType='cover_front' image='surroundings/common-shade.png' variant='matt,glossy'/>"
+                   + "</surroundings></product></products>");
+    }
+    class Registry : public PvProductTypeConfigRegistryAbstract
+    {
+    public:
+        explicit Registry(const QString& path) : m_dir(path) { load(); }
+        QList<QDir> supervisedDirs() const override { return { m_dir }; }
+        QDir m_dir;
+    } registry(dir.path());
+    QList<PvSurroundingDescriptionList> lists;
+    for (const char* name : { "first", "second" })
+        lists.append(registry.description(PvProductType(QString::fromLatin1(name)))->surroundings());
+    QCOMPARE(lists.at(0).size(), 2);
+    QCOMPARE(lists.at(1).size(), 2);
+    QCOMPARE(lists.at(0).at(0).imageResource(), QStringLiteral("shade-first-only.png"));
+    QCOMPARE(lists.at(1).at(0).imageResource(), QStringLiteral("shade-second-only.png"));
+    QCOMPARE(lists.at(0).at(1).imageResource(), QStringLiteral("surroundings/common-shade.png"));
+    QCOMPARE(lists.at(1).at(1).imageResource().constData(), lists.at(0).at(1).imageResource().constData());
 }
 
 void TestRegistry::legacy_data()

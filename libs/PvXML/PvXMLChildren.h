@@ -1,0 +1,29 @@
+#pragma once
+
+#include "pvxml_export.h"
+
+#include <QDomElement>
+#include <QList>
+#include <QString>
+#include <QVarLengthArray>
+
+/*!
+ * The child elements of one element, listed in one pass. Readers that look for several
+ * children of the same element ask this instead of walking the children once per name:
+ * each walk costs a reference count change per node passed.
+ */
+class PVXML_EXPORT PvXMLChildren
+{
+public:
+    explicit PvXMLChildren(const QDomElement& parent);
+
+    [[nodiscard]] const QDomElement& parent() const { return m_parent; }
+    //! The first child named \a tag, as QDomElement::firstChildElement() finds it.
+    [[nodiscard]] QDomElement first(QStringView tag) const;
+    //! Every child named \a tag, in document order.
+    [[nodiscard]] QList<QDomElement> all(QStringView tag) const;
+
+private:
+    QDomElement m_parent;
+    QVarLengthArray<std::pair<QString, QDomElement>, 24> m_children;
+};

@@ -1,7 +1,19 @@
 #include "PvStringPool.h"
 
+#include <algorithm>
+
 namespace {
 thread_local PvStringPool* current = nullptr;
+
+// A copy holding no spare capacity: texts built by appending carry some.
+template <typename T>
+T exact(const T& value)
+{
+    T copy = value;
+    if (copy.capacity() > copy.size())
+        copy.squeeze();
+    return copy;
+}
 }
 
 PvStringPool::PvStringPool()
@@ -17,20 +29,30 @@ PvStringPool::~PvStringPool()
         current = nullptr;
 }
 
+qsizetype PvStringPool::size() const
+{
+    const auto held = [](const auto& value) { return !value.isEmpty(); };
+    return std::count_if(m_strings.cbegin(), m_strings.cend(), held) + std::count_if(m_lists.cbegin(), m_lists.cend(), held);
+}
+
+template <typename T, std::size_t Size>
+T& PvStringPool::slot(std::array<T, Size>& table, const T& value)
+{
+    static_assert((Size & (Size - 1)) == 0, "the table size is a power of two");
+    return table[qHash(value, 0) & (Size - 1)];
+}
+
 QString PvStringPool::shared(const QString& text)
 {
     PvStringPool* pool = current;
-    if (!pool || text.isEmpty())
+    // Texts of a few characters are left alone: in a load of thousands of files, sharing
+    // them cost more time than their copies take memory.
+    if (!pool || text.size() < 4)
         return text;
-    const auto found = pool->m_strings.constFind(text);
-    if (found != pool->m_strings.cend())
-        return *found;
-    // Texts built by appending carry spare capacity; the pooled copy does not.
-    QString exact = text;
-    if (exact.capacity() > exact.size())
-        exact.squeeze();
-    pool->m_strings.insert(exact);
-    return exact;
+    QString& held = slot(pool->m_strings, text);
+    if (held != text)
+        held = exact(text);
+    return held;
 }
 
 QStringList PvStringPool::shared(const QStringList& list)
@@ -38,13 +60,13 @@ QStringList PvStringPool::shared(const QStringList& list)
     PvStringPool* pool = current;
     if (!pool || list.isEmpty())
         return list;
-    const auto found = pool->m_lists.constFind(list);
-    if (found != pool->m_lists.cend())
-        return *found;
-    QStringList exact;
-    exact.reserve(list.size());
-    for (const QString& text : list)
-        exact.append(shared(text));
-    pool->m_lists.insert(exact);
-    return exact;
+    QStringList& held = slot(pool->m_lists, list);
+    if (held != list) {
+        QStringList copy;
+        copy.reserve(list.size());
+        for (const QString& text : list)
+            copy.append(shared(text));
+        held = copy;
+    }
+    return held;
 }

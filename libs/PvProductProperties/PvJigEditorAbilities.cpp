@@ -6,9 +6,11 @@
 #include "PvXMLParser.h"
 
 #include <QMap>
+#include <QVarLengthArray>
 #include <QSharedData>
 #include <QStringTokenizer>
 
+#include <array>
 #include <tuple>
 
 class PvJigEditorAbilitiesImpl : public QSharedData
@@ -39,7 +41,9 @@ public:
     bool rotatable = false;
     bool fullOnEachPage = true;
     bool requiresExactArticle = false;
-    QList<Categories> categories;
+    // Inline: most jigs list one or two; a list of their own would be one more allocation
+    // kept for every jig of every product.
+    QVarLengthArray<Categories, 2> categories;
 };
 
 namespace {
@@ -60,27 +64,45 @@ PvJigEditorAbilitiesImpl::Categories readCategories(const QDomElement& element)
     entry.pageTypes = pvSplitBitsMask(pageType.value());
     return entry;
 }
+
+// Abilities without categories differ only in their four flags; every product's jigs of one
+// combination share its one copy.
+QSharedDataPointer<PvJigEditorAbilitiesImpl> plainAbilities(bool enabled, bool rotatable, bool fullOnEachPage, bool requiresExactArticle)
+{
+    static const auto table = [] {
+        std::array<QSharedDataPointer<PvJigEditorAbilitiesImpl>, 16> all;
+        for (int flags = 0; flags < 16; ++flags) {
+            auto* impl = new PvJigEditorAbilitiesImpl;
+            impl->enabled = flags & 1;
+            impl->rotatable = flags & 2;
+            impl->fullOnEachPage = flags & 4;
+            impl->requiresExactArticle = flags & 8;
+            all[flags] = QSharedDataPointer<PvJigEditorAbilitiesImpl>(impl);
+        }
+        return all;
+    }();
+    return table[int(enabled) | int(rotatable) << 1 | int(fullOnEachPage) << 2 | int(requiresExactArticle) << 3];
+}
 }
 
 PvJigEditorAbilities::PvJigEditorAbilities()
-    : d(new PvJigEditorAbilitiesImpl)
+    : d(plainAbilities(true, false, true, false))
 {
 }
 
 PvJigEditorAbilities::PvJigEditorAbilities(const QDomElement& element)
-    : PvJigEditorAbilities()
 {
-    d->enabled = PvXMLParser::boolAttribute(element, QStringLiteral("enabled"), true);
-    d->rotatable = PvXMLParser::boolAttribute(element, QStringLiteral("rotatable"), false);
-    d->fullOnEachPage = PvXMLParser::boolAttribute(element, QStringLiteral("fullOnEachPage"), true);
-    d->requiresExactArticle = PvXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false);
+    const bool enabled = PvXMLParser::boolAttribute(element, QStringLiteral("enabled"), true);
+    const bool rotatable = PvXMLParser::boolAttribute(element, QStringLiteral("rotatable"), false);
+    const bool fullOnEachPage = PvXMLParser::boolAttribute(element, QStringLiteral("fullOnEachPage"), true);
+    const bool requiresExactArticle = PvXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false);
+    d = plainAbilities(enabled, rotatable, fullOnEachPage, requiresExactArticle);
     const QString tag = QStringLiteral("categories");
     for (QDomElement child = element.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag)) {
         PvJigEditorAbilitiesImpl::Categories entry = readCategories(child);
         if (entry.pageTypes != 0)
-            d->categories.append(std::move(entry));
+            d->categories.append(std::move(entry)); // the first one detaches from the shared copy
     }
-    d->categories.squeeze();
 }
 
 PvJigEditorAbilities::PvJigEditorAbilities(const PvJigEditorAbilities& other) = default;

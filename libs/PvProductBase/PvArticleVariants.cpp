@@ -1,6 +1,6 @@
 #include "PvArticleVariants.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 
 #include <QDebug>
 #include <QStringList>
@@ -14,7 +14,7 @@ PvArticleVariants::PvArticleVariants(const QString& text)
     }
     m_ids.sort();
     m_ids.removeDuplicates();
-    m_ids = PvStringPool::shared(m_ids);
+    m_ids = PvValuePool::shared(m_ids);
 }
 
 QString PvArticleVariants::toString() const

@@ -1,6 +1,6 @@
 #include "PvBarcodeDefinitionList.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 PvBarcodeDefinitionList PvBarcodeDefinitionList::createFromProductsXML(const QDomElement& barcodes, PvDistanceUnit unit)
@@ -8,7 +8,7 @@ PvBarcodeDefinitionList PvBarcodeDefinitionList::createFromProductsXML(const QDo
     PvBarcodeDefinitionList list;
     const QString tag = QStringLiteral("barcode");
     for (QDomElement b = barcodes.firstChildElement(tag); !b.isNull(); b = b.nextSiblingElement(tag)) {
-        list.m_barcodes.append({ PvStringPool::shared(PvXMLParser::attribute(b, QStringLiteral("type"), QString(), true)),
+        list.m_barcodes.append({ PvValuePool::shared(PvXMLParser::attribute(b, QStringLiteral("type"), QString(), true)),
                                  PvXMLParser::intAttribute(b, QStringLiteral("page"), 0),
                                  PvXMLParser::readDistance(b, QStringLiteral("x"), 0.0, unit),
                                  PvXMLParser::readDistance(b, QStringLiteral("y"), 0.0, unit),

@@ -1,6 +1,6 @@
 #include "PvConfiguredArticleVariantList.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
@@ -14,8 +14,8 @@ PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const PvXMLChildr
     const QString variantTag = QStringLiteral("variant");
     for (const QDomElement& list : product.all(u"variants")) {
         for (QDomElement v = list.firstChildElement(variantTag); !v.isNull(); v = v.nextSiblingElement(variantTag)) {
-            m_variants.append({ PvStringPool::shared(PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true)),
-                                PvStringPool::shared(PvXMLParser::attribute(v, QStringLiteral("name"))),
+            m_variants.append({ PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true)),
+                                PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("name"))),
                                 PvXMLParser::boolAttribute(v, QStringLiteral("default"), false) });
         }
     }

@@ -1,10 +1,12 @@
 #include "PvContentDropRedirectList.h"
 
 #include "PvProductDiagnostics.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
 
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -34,16 +36,34 @@ void reportSkipped(const QDomElement& contentredirect, bool numbers, int end, in
         why = QStringLiteral("attribute \"from\": %1 spans more than %2 pages").arg(from).arg(maximumRangeWidth);
     PvProductDiagnostics::report(PvDiagnostic::Error, contentredirect, why + QStringLiteral("; the redirect is skipped"), attribute);
 }
+
+// The target of the run \a page lies in, -1 for none: in the map being built and in the kept list.
+int targetIn(const QMap<qint64, int>& runs, qint64 page)
+{
+    const auto after = runs.upperBound(page);
+    return after == runs.cbegin() ? noRedirect : std::prev(after).value();
+}
+
+int targetIn(const QList<std::pair<qint64, int>>& runs, qint64 page)
+{
+    const auto after = std::upper_bound(runs.cbegin(), runs.cend(), page, [](qint64 wanted, const auto& run) { return wanted < run.first; });
+    return after == runs.cbegin() ? noRedirect : std::prev(after)->second;
+}
 }
 
 PvContentDropRedirectList::PvContentDropRedirectList(const QDomElement& contentredirects)
 {
     const QString tag = QStringLiteral("contentredirect");
+    Runs runs;
     for (QDomElement child = contentredirects.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag))
-        read(child);
+        read(child, &runs);
+    m_runs.reserve(runs.size());
+    for (auto it = runs.cbegin(); it != runs.cend(); ++it)
+        m_runs.append({ it.key(), it.value() });
+    m_runs = PvValuePool::shared(m_runs);
 }
 
-void PvContentDropRedirectList::read(const QDomElement& contentredirect)
+void PvContentDropRedirectList::read(const QDomElement& contentredirect, Runs* runs)
 {
     const QString from = PvXMLParser::attribute(contentredirect, QStringLiteral("from"));
     QString startText = from;
@@ -64,32 +84,24 @@ void PvContentDropRedirectList::read(const QDomElement& contentredirect)
         return;
     }
     if (start <= end)
-        redirect(start, end, to);
+        redirect(start, end, to, runs);
 }
 
 // A later redirect wins over an earlier one on the pages they share.
-void PvContentDropRedirectList::redirect(qint64 first, qint64 last, int target)
+void PvContentDropRedirectList::redirect(qint64 first, qint64 last, int target, Runs* runs)
 {
     // Wide keys: the run after a range that ends at INT_MAX starts beyond int.
-    const int after = targetAt(last + 1);
-    auto it = m_runs.lowerBound(first);
-    while (it != m_runs.end() && it.key() <= last + 1)
-        it = m_runs.erase(it);
-    m_runs.insert(first, target);
-    m_runs.insert(last + 1, after);
-}
-
-int PvContentDropRedirectList::targetAt(qint64 page) const
-{
-    auto it = m_runs.upperBound(page);
-    if (it == m_runs.cbegin())
-        return noRedirect;
-    return (--it).value();
+    const int after = targetIn(*runs, last + 1);
+    auto it = runs->lowerBound(first);
+    while (it != runs->end() && it.key() <= last + 1)
+        it = runs->erase(it);
+    runs->insert(first, target);
+    runs->insert(last + 1, after);
 }
 
 int PvContentDropRedirectList::targetPage(int page) const
 {
-    const int target = targetAt(page);
+    const int target = targetIn(m_runs, page);
     return target == noRedirect ? page : target;
 }
 
@@ -99,12 +111,12 @@ QList<PvContentDropRedirectList::Range> PvContentDropRedirectList::ranges() cons
     for (auto it = m_runs.cbegin(); it != m_runs.cend(); ++it) {
         const auto next = std::next(it);
         // The last run always goes back to no redirect, so every redirected run has an end.
-        if (it.value() == noRedirect || next == m_runs.cend())
+        if (it->second == noRedirect || next == m_runs.cend())
             continue;
-        if (!list.isEmpty() && list.last().last + 1 == it.key() && list.last().target == it.value())
-            list.last().last = next.key() - 1;
+        if (!list.isEmpty() && list.last().last + 1 == it->first && list.last().target == it->second)
+            list.last().last = next->first - 1;
         else
-            list.append(Range { it.key(), next.key() - 1, it.value() });
+            list.append(Range { it->first, next->first - 1, it->second });
     }
     return list;
 }

@@ -36,11 +36,12 @@ public:
     [[nodiscard]] QList<Range> ranges() const;
 
 private:
-    void read(const QDomElement& contentredirect);
-    void redirect(qint64 first, qint64 last, int target);
-    [[nodiscard]] int targetAt(qint64 page) const;
+    using Runs = QMap<qint64, int>;
+    static void read(const QDomElement& contentredirect, Runs* runs);
+    static void redirect(qint64 first, qint64 last, int target, Runs* runs);
 
-    // Ranges, not pages: each key starts a run of pages that share the target (or none, -1)
-    // up to the next key, so a file costs memory by its size, not by the widths it writes.
-    QMap<qint64, int> m_runs;
+    // Ranges, not pages: each entry starts a run of pages that share the target (or none, -1)
+    // up to the next entry, so a file costs memory by its size, not by the widths it writes.
+    // Built in a map, kept as a sorted list: one allocation, which products share.
+    QList<std::pair<qint64, int>> m_runs;
 };

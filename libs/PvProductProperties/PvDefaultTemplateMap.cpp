@@ -5,7 +5,7 @@
 
 #include "PvPageTypeList.h"
 #include "PvProductPropertiesLogging.h"
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
@@ -123,12 +123,13 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
             parts.append(part);
         if (parts.size() == 2)
             layoutDefault = parts.at(1).toString();
-        if (!parts.isEmpty())
+        // Most name the house background: they share its text instead of copying it.
+        if (!parts.isEmpty() && parts.first() != backgroundDefault)
             backgroundDefault = parts.first().toString();
     }
-    rule.names[PvDefaultTemplateTypeLayout] = PvStringPool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed()));
-    rule.names[PvDefaultTemplateTypeBackground] = PvStringPool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed()));
-    rule.names[PvDefaultTemplateTypeDesign] = PvStringPool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design"))));
+    rule.names[PvDefaultTemplateTypeLayout] = PvValuePool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed()));
+    rule.names[PvDefaultTemplateTypeBackground] = PvValuePool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed()));
+    rule.names[PvDefaultTemplateTypeDesign] = PvValuePool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design"))));
 
     const qsizetype entries = rule.entryCount();
     if (entries == 0)

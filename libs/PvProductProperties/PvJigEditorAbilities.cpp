@@ -2,7 +2,7 @@
 
 #include "PvProductDiagnostics.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 #include <QMap>
@@ -52,7 +52,7 @@ PvJigEditorAbilitiesImpl::Categories readCategories(const QDomElement& element)
     PvJigEditorAbilitiesImpl::Categories entry;
     const PvPageType pageType(PvXMLParser::attribute(element, QStringLiteral("pageType")));
     // Blanks around names are kept: they are part of the category names as written.
-    entry.text = PvStringPool::shared(element.text());
+    entry.text = PvValuePool::shared(element.text());
     if (PvProductDiagnostics::listening()) {
         for (const QStringView name : QStringView(entry.text).tokenize(u',', Qt::SkipEmptyParts)) {
             if (name != name.trimmed())

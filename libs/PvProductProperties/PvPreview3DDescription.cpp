@@ -1,7 +1,7 @@
 #include "PvPreview3DDescription.h"
 
 #include "PvBasisSettings.h"
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
@@ -53,7 +53,7 @@ public:
 
 void PvPreview3DDescriptionImpl::readMesh(const QDomElement& element)
 {
-    mesh = PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("file")));
+    mesh = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("file")));
     flipY = PvXMLParser::boolAttribute(element, QStringLiteral("flipY"), false);
     flipX = PvXMLParser::boolAttribute(element, QStringLiteral("flipX"), false);
     pagesPer3DModel = mesh.isEmpty() ? 0 : PvXMLParser::intAttribute(element, QStringLiteral("pagesPer3DModel"), 1);

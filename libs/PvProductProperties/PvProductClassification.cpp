@@ -2,7 +2,7 @@
 
 #include "PvProductDiagnostics.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
@@ -56,11 +56,11 @@ PvProductClassification::PvProductClassification(const PvXMLChildren& product)
     : m_productType(PvXMLParser::attribute(product.parent(), QStringLiteral("name"), QString(), true))
 {
     const QDomElement classification = product.first(u"classification");
-    m_cmName = PvStringPool::shared(PvXMLParser::attribute(classification, QStringLiteral("cm")));
-    m_inchName = PvStringPool::shared(PvXMLParser::attribute(classification, QStringLiteral("inch")));
+    m_cmName = PvValuePool::shared(PvXMLParser::attribute(classification, QStringLiteral("cm")));
+    m_inchName = PvValuePool::shared(PvXMLParser::attribute(classification, QStringLiteral("inch")));
     // Older product files were written in UTF-8 but read as Latin-1; going back to the bytes
     // repairs them. A correct value outside ASCII does not survive this, and never did.
-    m_group = PvProductClassificationGroup(PvStringPool::shared(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1())));
+    m_group = PvProductClassificationGroup(PvValuePool::shared(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1())));
     calculateSize();
     if (PvProductDiagnostics::listening())
         reportMistakes(classification);

@@ -3,6 +3,7 @@
 #include "PvProductDiagnostics.h"
 #include "PvProductPropertiesLogging.h"
 #include "PvSurroundingKey.h"
+#include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
@@ -130,8 +131,8 @@ void PvProductTypeDescription::initRedirectsAndDefaults(const PvXMLChildren& pro
 
 void PvProductTypeDescription::initPages(const PvXMLChildren& product)
 {
-    m_productionNumbering = decodeIntList(product.first(u"productionnumbering"));
-    m_pagesWithContent = decodeIntList(product.first(u"pageswithcontent"));
+    m_productionNumbering = PvValuePool::shared(decodeIntList(product.first(u"productionnumbering")));
+    m_pagesWithContent = PvValuePool::shared(decodeIntList(product.first(u"pageswithcontent")));
     // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
     // pageTypes(n) warn about the product.
     const QDomElement pagesElement = product.first(u"pages");

@@ -4,7 +4,7 @@
 #include "PvPlatformIndependent.h"
 #include "PvProductDiagnostics.h"
 #include "PvProductTypeDescription.h"
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLLoader.h"
 
 #include <QDebug>
@@ -19,7 +19,7 @@ PvProductTypeDescriptionReader::~PvProductTypeDescriptionReader() = default;
 QHash<PvProductType, PvProductTypeDescription*> PvProductTypeDescriptionReader::readDir() const
 {
     // Descriptions of one directory repeat each other's paths and names; they keep one copy.
-    const PvStringPool pool;
+    const PvValuePool pool;
     QHash<PvProductType, PvProductTypeDescription*> result;
     // Generous on purpose: the hash never grows while a directory is read.
     result.reserve(100000);

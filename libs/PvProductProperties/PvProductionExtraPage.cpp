@@ -1,13 +1,13 @@
 #include "PvProductionExtraPage.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 PvProductionExtraPage::PvProductionExtraPage() = default;
 
 PvProductionExtraPage::PvProductionExtraPage(const QDomElement& pdf)
-    : m_filename(PvStringPool::shared(PvXMLParser::attribute(pdf, QStringLiteral("filename"))))
-    , m_templateType(PvStringPool::shared(PvXMLParser::attribute(pdf, QStringLiteral("type"))))
+    : m_filename(PvValuePool::shared(PvXMLParser::attribute(pdf, QStringLiteral("filename"))))
+    , m_templateType(PvValuePool::shared(PvXMLParser::attribute(pdf, QStringLiteral("type"))))
     , m_targetLayer(PvXMLParser::attribute(pdf, QStringLiteral("layer")).toInt(nullptr, 10))
 {
 }

@@ -1,6 +1,7 @@
 #include "PvProductionExtraPageGroup.h"
 
 #include "PvProductDiagnostics.h"
+#include "PvValuePool.h"
 
 #include <utility>
 
@@ -70,4 +71,5 @@ void PvProductionExtraPageGroup::readTargetPages(const QDomElement& targetPages,
         for (qint64 page = first; page <= last; ++page)
             m_targetPages.append(int(page));
     }
+    m_targetPages = PvValuePool::shared(m_targetPages);
 }

@@ -5,7 +5,7 @@
 #include "PvCSSSkinManager.h"
 #include "PvDirectoryConfig.h"
 #include "PvProductPropertiesLogging.h"
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 #include <QColor>
@@ -16,6 +16,7 @@
 #include <QTransform>
 #include <QtNumeric>
 
+#include <algorithm>
 #include <climits>
 #include <cmath>
 #include <limits>
@@ -91,7 +92,7 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
     , m_loopDistance(PvXMLParser::intAttribute(element, QStringLiteral("loopDistance"), 30))
 {
     const QString defaultVariant = QStringLiteral("spiralbinding-one-loop-vertical.png");
-    m_variant = PvStringPool::shared(confinedPath(element, QStringLiteral("variant"), defaultVariant));
+    m_variant = PvValuePool::shared(confinedPath(element, QStringLiteral("variant"), defaultVariant));
     readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
     if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
         PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
@@ -119,23 +120,38 @@ PvSpiralConfig& PvSpiralConfig::operator=(const PvSpiralConfig& other) = default
 PvSpiralConfig& PvSpiralConfig::operator=(PvSpiralConfig&& other) noexcept = default;
 PvSpiralConfig::~PvSpiralConfig() = default;
 
+namespace {
+template <typename List>
+auto findColour(List& images, const QString& colour)
+{
+    return std::lower_bound(images.begin(), images.end(), colour, [](const auto& entry, const QString& wanted) { return entry.first < wanted; });
+}
+}
+
 void PvSpiralConfig::readLoopImages(const QDomElement& element)
 {
     const QString loopImage = QStringLiteral("loopImage");
     for (QDomElement child = element.firstChildElement(loopImage); !child.isNull(); child = child.nextSiblingElement(loopImage)) {
         const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"));
         const QString file = confinedPath(child, QStringLiteral("imagePath"), QString());
-        if (!colour.isEmpty() && !file.isEmpty())
-            m_loopImages.insert(PvStringPool::shared(colour), PvStringPool::shared(file));
+        if (colour.isEmpty() || file.isEmpty())
+            continue;
+        // A colour named again takes the later picture.
+        const auto it = findColour(m_loopImages, colour);
+        if (it != m_loopImages.end() && it->first == colour)
+            it->second = PvValuePool::shared(file);
+        else
+            m_loopImages.insert(it, { PvValuePool::shared(colour), PvValuePool::shared(file) });
     }
+    m_loopImages = PvValuePool::shared(m_loopImages);
 }
 
 QHash<QString, QString> PvSpiralConfig::loopImages() const
 {
     QHash<QString, QString> images;
     images.reserve(m_loopImages.size());
-    for (auto it = m_loopImages.cbegin(); it != m_loopImages.cend(); ++it)
-        images.insert(it.key(), it.value());
+    for (const auto& [colour, file] : m_loopImages)
+        images.insert(colour, file);
     return images;
 }
 
@@ -157,9 +173,9 @@ bool PvSpiralConfig::operator<(const PvSpiralConfig& other) const
 
 void PvSpiralConfig::setSpiralColor(const QString& colour)
 {
-    const auto it = m_loopImages.constFind(colour);
-    if (it != m_loopImages.cend())
-        m_variant = *it;
+    const auto it = findColour(std::as_const(m_loopImages), colour);
+    if (it != m_loopImages.cend() && it->first == colour)
+        m_variant = it->second;
 }
 
 QSize PvSpiralConfig::spiralSize(Qt::Orientation orientation) const

@@ -5,7 +5,7 @@
 #include <QDomElement>
 #include <QHash>
 #include <QImage>
-#include <QMap>
+#include <QList>
 #include <QSize>
 #include <QString>
 
@@ -105,6 +105,7 @@ private:
     int m_loopWidth = 0;
     int m_loopDistance = 0;
     QString m_variant;
-    // A few colours at most: a map costs a node each, a hash a table for dozens from the first.
-    QMap<QString, QString> m_loopImages;
+    // Colour and picture, sorted by colour. A few at most, and the same in many products: a
+    // list of them is one allocation, which products share.
+    QList<std::pair<QString, QString>> m_loopImages;
 };

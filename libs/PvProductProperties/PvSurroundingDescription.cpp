@@ -2,7 +2,7 @@
 
 #include "PvEnumAttribute.h"
 #include "PvSurroundingKey.h"
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 #include <QDomAttr>
@@ -68,8 +68,8 @@ void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
     paintOnTop = PvXMLParser::boolAttribute(element, QStringLiteral("paintOnTop"), true);
     canBeHiddenByUser = PvXMLParser::boolAttribute(element, QStringLiteral("canBeHiddenByUser"), false);
     hideGrafikInPreview = PvXMLParser::boolAttribute(element, QStringLiteral("hideGrafikInPreview"), false);
-    image = PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("image")));
-    imageSpotColor = PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("imageSpotColor")));
+    image = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("image")));
+    imageSpotColor = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("imageSpotColor")));
     editableArea = PvXMLParser::readRect(element);
     hasBindingShade = PvXMLParser::boolAttribute(element, QStringLiteral("hasbindingshade"), false);
     hasSpineFold = PvXMLParser::boolAttribute(element, QStringLiteral("hasspinefold"), false);

@@ -1,10 +1,10 @@
 #include "PvTextureTarget.h"
 
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 PvTextureTarget::PvTextureTarget(const QDomElement& element)
-    : m_name(PvStringPool::shared(PvXMLParser::attribute(element, QStringLiteral("name"))))
+    : m_name(PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("name"))))
     , m_rect(PvXMLParser::readRectF(element))
     , m_page(PvXMLParser::intAttribute(element, QStringLiteral("page"), 0))
 {

@@ -10,7 +10,7 @@
 #include "PvProductChecker.h"
 #include "PvProductCheckerRegistry.h"
 #include "PvSingleton.h"
-#include "PvStringPool.h"
+#include "PvValuePool.h"
 #include "PvXMLBasedRegistry.h"
 #include "PvXMLBuilder.h"
 #include "PvXMLChildren.h"
@@ -116,7 +116,7 @@ private Q_SLOTS:
     void otherReaders();
     void optionalAttribute();
     void childList();
-    void stringPool();
+    void valuePool();
     void rectReaders_data();
     void rectReaders();
     void builder();
@@ -224,42 +224,53 @@ void TestPlatform::childList()
     QVERIFY(PvXMLChildren(QDomElement()).all(u"a").isEmpty());
 }
 
-void TestPlatform::stringPool()
+void TestPlatform::valuePool()
 {
     // Two equal strings that do not share their characters, as two files' attributes would be.
     const QString first = QStringLiteral("surroundings/") + QStringLiteral("shade.png");
     const QString second = QStringLiteral("surroundings/shade") + QStringLiteral(".png");
     QVERIFY(first.constData() != second.constData());
-    QCOMPARE(PvStringPool::shared(second).constData(), second.constData());
+    QCOMPARE(PvValuePool::shared(second).constData(), second.constData());
 
     QString grown = QStringLiteral("Urlaub");
     grown.reserve(100);
     {
-        PvStringPool pool;
-        const QString a = PvStringPool::shared(first);
-        const QString b = PvStringPool::shared(second);
+        PvValuePool pool;
+        const QString a = PvValuePool::shared(first);
+        const QString b = PvValuePool::shared(second);
         QCOMPARE(b, second);
         QCOMPARE(b.constData(), a.constData());
         {
             // A pool made inside another one leaves the sharing to the outer pool.
-            PvStringPool inner;
-            QCOMPARE(PvStringPool::shared(QString(second)).constData(), a.constData());
+            PvValuePool inner;
+            QCOMPARE(PvValuePool::shared(QString(second)).constData(), a.constData());
             QCOMPARE(inner.size(), 0);
         }
-        QCOMPARE(PvStringPool::shared(second).constData(), a.constData());
+        QCOMPARE(PvValuePool::shared(second).constData(), a.constData());
 
         // Kept strings hold no spare room.
-        const QString kept = PvStringPool::shared(grown);
+        const QString kept = PvValuePool::shared(grown);
         QCOMPARE(kept, grown);
         QCOMPARE(kept.capacity(), kept.size());
 
         const QStringList ids = { QStringLiteral("matt"), first };
-        const QStringList same = PvStringPool::shared(QStringList({ QStringLiteral("matt"), second }));
-        QCOMPARE(PvStringPool::shared(ids).constData(), same.constData());
+        const QStringList same = PvValuePool::shared(QStringList({ QStringLiteral("matt"), second }));
+        QCOMPARE(PvValuePool::shared(ids).constData(), same.constData());
         QCOMPARE(same.at(1).constData(), a.constData());
-        QCOMPARE(pool.size(), 4);
+
+        // Any value with a hash, kept without spare room; a short text stays as it is.
+        QList<int> pages;
+        pages.reserve(64);
+        pages << 3 << 4 << 5;
+        const QList<int> pooledPages = PvValuePool::shared(pages);
+        QCOMPARE(pooledPages, pages);
+        QCOMPARE(pooledPages.capacity(), 3);
+        QCOMPARE(PvValuePool::shared(QList<int>({ 3, 4, 5 })).constData(), pooledPages.constData());
+        const QString shortText = QStringLiteral("2") + QStringLiteral("01");
+        QCOMPARE(PvValuePool::shared(shortText).constData(), shortText.constData());
+        QCOMPARE(pool.size(), 5);
     }
-    QCOMPARE(PvStringPool::shared(second).constData(), second.constData());
+    QCOMPARE(PvValuePool::shared(second).constData(), second.constData());
 }
 
 void TestPlatform::rectReaders_data()

@@ -1,0 +1,78 @@
+#include "PvValuePool.h"
+
+#include <atomic>
+
+namespace {
+thread_local PvValuePool* activePool = nullptr;
+
+// A copy holding no spare capacity: texts built by appending carry some.
+template <typename T>
+T exact(const T& value)
+{
+    T copy = value;
+    if (copy.capacity() > copy.size())
+        copy.squeeze();
+    return copy;
+}
+}
+
+PvValuePool::PvValuePool()
+    : m_inUse(activePool == nullptr)
+{
+    if (m_inUse)
+        activePool = this;
+}
+
+PvValuePool::~PvValuePool()
+{
+    if (m_inUse)
+        activePool = nullptr;
+}
+
+int PvValuePool::nextTypeId()
+{
+    static std::atomic<int> next { 0 };
+    return next++;
+}
+
+PvValuePool* PvValuePool::current()
+{
+    return activePool;
+}
+
+qsizetype PvValuePool::size() const
+{
+    qsizetype held = m_strings.size() + m_lists.size();
+    for (const auto& table : m_tables)
+        held += table ? table->size() : 0;
+    return held;
+}
+
+QString PvValuePool::shared(const QString& text)
+{
+    PvValuePool* pool = current();
+    // Texts of a few characters are left alone: in a load of thousands of files, sharing
+    // them cost more time than their copies take memory.
+    if (!pool || text.size() < 4)
+        return text;
+    QString& held = pool->m_strings.slot(qHash(text, 0));
+    if (held != text)
+        held = exact(text);
+    return held;
+}
+
+QStringList PvValuePool::shared(const QStringList& list)
+{
+    PvValuePool* pool = current();
+    if (!pool || list.isEmpty())
+        return list;
+    QStringList& held = pool->m_lists.slot(qHash(list, 0));
+    if (held != list) {
+        QStringList copy;
+        copy.reserve(list.size());
+        for (const QString& text : list)
+            copy.append(shared(text));
+        held = copy;
+    }
+    return held;
+}

@@ -1,0 +1,118 @@
+#pragma once
+
+#include "pvcore_export.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+/*!
+ * Lets the equal values that readers keep during one load share one copy. Product files
+ * repeat the same image paths, category names, page lists and picture tables from file to
+ * file; without the pool each description would keep its own copy of each, and with it the
+ * parsed document it came from. The values are Qt's implicitly shared ones (strings, lists,
+ * maps), for which a copy is a reference.
+ *
+ * The pool remembers the values it saw last, a fixed number of each type, in a table indexed
+ * by their hash: a lookup costs one hash and one comparison with a value still in the cache,
+ * and a pool's memory does not grow with the load. Equal values far apart in a load may
+ * each keep a copy; products of one family stand close together.
+ *
+ * A pool is in use on a thread while a PvValuePool lives there. A pool made while another
+ * is in use stays idle, so that one load shares across everything it reads. Without a pool,
+ * shared() answers its argument.
+ */
+class PVCORE_EXPORT PvValuePool
+{
+public:
+    PvValuePool();
+    ~PvValuePool();
+    PvValuePool(const PvValuePool&) = delete;
+    PvValuePool& operator=(const PvValuePool&) = delete;
+
+    //! The pooled string equal to \a text, holding no more memory than its characters.
+    [[nodiscard]] static QString shared(const QString& text);
+    //! The pooled list equal to \a list, its strings pooled too.
+    [[nodiscard]] static QStringList shared(const QStringList& list);
+    //! The pooled value equal to \a value, of a type with qHash() and operator==.
+    template <typename T>
+    [[nodiscard]] static T shared(const T& value);
+
+    //! Values this pool holds now; an idle pool holds none.
+    [[nodiscard]] qsizetype size() const;
+
+private:
+    struct TableBase
+    {
+        virtual ~TableBase() = default;
+        [[nodiscard]] virtual qsizetype size() const = 0;
+    };
+    template <typename T, std::size_t Size>
+    struct Table : TableBase
+    {
+        std::array<T, Size> held;
+        T& slot(size_t hash) { return held[hash & (Size - 1)]; }
+        [[nodiscard]] qsizetype size() const override;
+    };
+
+    template <typename T>
+    Table<T, 256>& table();
+    // A small number for each type that asks, so that a pool finds its table by index.
+    static int nextTypeId();
+    template <typename T>
+    static int typeId()
+    {
+        static const int id = nextTypeId();
+        return id;
+    }
+    template <typename T>
+    static constexpr auto hasSqueeze(int) -> decltype(std::declval<T&>().squeeze(), true) { return true; }
+    template <typename T>
+    static constexpr bool hasSqueeze(...) { return false; }
+    [[nodiscard]] static PvValuePool* current();
+
+    Table<QString, 1024> m_strings;
+    Table<QStringList, 256> m_lists;
+    std::vector<std::unique_ptr<TableBase>> m_tables;
+    bool m_inUse = false;
+};
+
+template <typename T, std::size_t Size>
+qsizetype PvValuePool::Table<T, Size>::size() const
+{
+    qsizetype count = 0;
+    for (const T& value : held)
+        count += value.isEmpty() ? 0 : 1;
+    return count;
+}
+
+template <typename T>
+PvValuePool::Table<T, 256>& PvValuePool::table()
+{
+    const auto id = std::size_t(typeId<T>());
+    if (m_tables.size() <= id)
+        m_tables.resize(id + 1);
+    if (!m_tables[id])
+        m_tables[id] = std::make_unique<Table<T, 256>>();
+    return static_cast<Table<T, 256>&>(*m_tables[id]);
+}
+
+template <typename T>
+T PvValuePool::shared(const T& value)
+{
+    PvValuePool* pool = current();
+    if (!pool || value.isEmpty())
+        return value;
+    T& held = pool->table<T>().slot(qHash(value, 0));
+    if (!(held == value)) {
+        held = value;
+        // Lists built by appending carry spare capacity; the pooled copy does not.
+        if constexpr (hasSqueeze<T>(0))
+            held.squeeze();
+    }
+    return held;
+}

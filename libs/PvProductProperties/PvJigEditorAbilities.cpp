@@ -1,5 +1,6 @@
 #include "PvJigEditorAbilities.h"
 
+#include "PvBlockPool.h"
 #include "PvProductDiagnostics.h"
 
 #include "PvValuePool.h"
@@ -13,7 +14,7 @@
 #include <array>
 #include <tuple>
 
-class PvJigEditorAbilitiesImpl : public QSharedData
+class PvJigEditorAbilitiesImpl : public QSharedData, public PvBlockPoolAllocated
 {
 public:
     // One "categories" element: the names it gives every page type bit it lists. Kept as

@@ -1,6 +1,7 @@
 #include "PvPreview3DDescription.h"
 
 #include "PvBasisSettings.h"
+#include "PvBlockPool.h"
 #include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
@@ -35,7 +36,7 @@ void addItem(QUrlQuery& query, const QString& key, const QString& value)
 }
 }
 
-class PvPreview3DDescriptionImpl : public QSharedData
+class PvPreview3DDescriptionImpl : public QSharedData, public PvBlockPoolAllocated
 {
 public:
     void readMesh(const QDomElement& element);

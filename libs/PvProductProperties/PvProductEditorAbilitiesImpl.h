@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PvBlockPool.h"
 #include "PvDateRangeConstraint.h"
 #include "PvJigEditorAbilities.h"
 #include "PvJigType.h"
@@ -14,7 +15,7 @@
 #include <QSharedData>
 
 /*! The shared data of PvProductEditorAbilities. */
-class PVPRODUCTPROPERTIES_EXPORT PvProductEditorAbilitiesImpl : public QSharedData
+class PVPRODUCTPROPERTIES_EXPORT PvProductEditorAbilitiesImpl : public QSharedData, public PvBlockPoolAllocated
 {
 public:
     PvProductEditorAbilitiesImpl() = default;

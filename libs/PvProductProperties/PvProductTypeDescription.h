@@ -2,6 +2,7 @@
 
 #include "PvArticleClass.h"
 #include "PvBarcodeDefinitionList.h"
+#include "PvBlockPool.h"
 #include "PvConfiguredArticleVariantList.h"
 #include "PvContentDropRedirectList.h"
 #include "PvCoverType.h"
@@ -36,7 +37,7 @@ using PvProductionNumberingList = QList<int>;
  * Everything the application knows about one orderable product type, read from the
  * "product" element of a product file. Built once and never changed afterwards.
  */
-class PVPRODUCTPROPERTIES_EXPORT PvProductTypeDescription
+class PVPRODUCTPROPERTIES_EXPORT PvProductTypeDescription : public PvBlockPoolAllocated
 {
 public:
     //! Every field at its default: the description of an unknown product type.

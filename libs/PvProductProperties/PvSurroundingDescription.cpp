@@ -1,5 +1,6 @@
 #include "PvSurroundingDescription.h"
 
+#include "PvBlockPool.h"
 #include "PvEnumAttribute.h"
 #include "PvSurroundingKey.h"
 #include "PvValuePool.h"
@@ -15,7 +16,7 @@
 #include <memory>
 #include <tuple>
 
-class PvSurroundingDescriptionImpl : public QSharedData
+class PvSurroundingDescriptionImpl : public QSharedData, public PvBlockPoolAllocated
 {
 public:
     void readAttributes(const QDomElement& element);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "pvcore_export.h"
+
+#include <cstddef>
+
+/*!
+ * Memory for the small records that loading keeps for good: the shared data of surroundings,
+ * jig abilities and the like. Taken from the general heap one by one, thousands of them
+ * would sit between the blocks that parsing the next file frees and takes again, and every
+ * later parse would pay for the scattered heap. Here blocks of one size are carved from
+ * larger chunks of their own; a freed block is reused for the next one of its size, and
+ * chunks are never given back.
+ *
+ * Classes take their memory from here by deriving from PvBlockPoolAllocated. Under
+ * AddressSanitizer every block comes from the general heap, so that its checks still see
+ * each one.
+ */
+class PVCORE_EXPORT PvBlockPool
+{
+public:
+    //! A block of at least \a size bytes, aligned for any type.
+    [[nodiscard]] static void* allocate(std::size_t size);
+    //! Gives back \a block, allocated with the same \a size.
+    static void deallocate(void* block, std::size_t size) noexcept;
+    //! Bytes held in chunks but in no block in use: freed blocks and chunk room not yet used.
+    [[nodiscard]] static std::size_t idleBytes();
+};
+
+//! Base of classes whose objects take their memory from PvBlockPool.
+class PvBlockPoolAllocated
+{
+public:
+    static void* operator new(std::size_t size) { return PvBlockPool::allocate(size); }
+    static void operator delete(void* block, std::size_t size) noexcept { PvBlockPool::deallocate(block, size); }
+};

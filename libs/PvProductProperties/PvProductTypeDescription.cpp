@@ -136,7 +136,7 @@ void PvProductTypeDescription::initPages(const PvXMLChildren& product)
     // A missing "pages" gives the list of one empty name, on purpose: its page type 0 makes
     // pageTypes(n) warn about the product.
     const QDomElement pagesElement = product.first(u"pages");
-    m_pageTypes = PvPageTypeList(pagesElement.text());
+    m_pageTypes = PvPageTypeList(PvValuePool::shared<QList<PvPageType>>(PvPageTypeList(pagesElement.text())));
     PvProductDiagnostics::checkEnum<PvPageType>(pagesElement, QString(), "page type", true);
 
     const auto isSpine = [](const PvPageType& type) { return type == PvPageTypeSpine; };

@@ -27,6 +27,22 @@ public:
     [[nodiscard]] static std::size_t idleBytes();
 };
 
+//! A standard allocator over PvBlockPool, for std::allocate_shared and the like.
+template <typename T>
+struct PvBlockPoolAllocator
+{
+    using value_type = T;
+    PvBlockPoolAllocator() = default;
+    template <typename Other>
+    PvBlockPoolAllocator(const PvBlockPoolAllocator<Other>&) noexcept { }
+    [[nodiscard]] T* allocate(std::size_t count) { return static_cast<T*>(PvBlockPool::allocate(count * sizeof(T))); }
+    void deallocate(T* block, std::size_t count) noexcept { PvBlockPool::deallocate(block, count * sizeof(T)); }
+    template <typename Other>
+    bool operator==(const PvBlockPoolAllocator<Other>&) const noexcept { return true; }
+    template <typename Other>
+    bool operator!=(const PvBlockPoolAllocator<Other>&) const noexcept { return false; }
+};
+
 //! Base of classes whose objects take their memory from PvBlockPool.
 class PvBlockPoolAllocated
 {

@@ -19,7 +19,8 @@ PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const PvXMLChildr
                                 PvXMLParser::boolAttribute(v, QStringLiteral("default"), false) });
         }
     }
-    m_variants.squeeze();
+    // Products of a family offer the same variants.
+    m_variants = PvValuePool::shared(m_variants);
 }
 
 PvConfiguredArticleVariantList::Variant PvConfiguredArticleVariantList::defaultVariant() const

@@ -20,6 +20,11 @@ public:
         {
             return a.id == b.id && a.name == b.name && a.isDefault == b.isDefault;
         }
+        //! A hash of every field, for hash tables.
+        friend size_t qHash(const Variant& variant, size_t seed = 0) noexcept
+        {
+            return qHashMulti(seed, variant.id, variant.name, variant.isDefault);
+        }
     };
 
     PvConfiguredArticleVariantList() = default;

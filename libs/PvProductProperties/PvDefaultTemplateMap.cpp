@@ -22,6 +22,14 @@ QString houseBackground()
 {
     return QStringLiteral("201");
 }
+// A template name as a rule keeps it: the house background, named by most rules, as the one
+// text of it, the others shared with equal names of the load.
+QString keptName(const QString& name)
+{
+    static const QString house = houseBackground();
+    return name == house ? house : PvValuePool::shared(PvDefaultTemplateMap::removeUmlauts(name));
+}
+
 // Every default makes three entries per page type and alignment it names. Real products hold
 // a few thousand at most; the bound keeps a file's entries from costing more than a few MB.
 constexpr qsizetype maximumEntries = 20000;
@@ -127,9 +135,9 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
         if (!parts.isEmpty() && parts.first() != backgroundDefault)
             backgroundDefault = parts.first().toString();
     }
-    rule.names[PvDefaultTemplateTypeLayout] = PvValuePool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed()));
-    rule.names[PvDefaultTemplateTypeBackground] = PvValuePool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed()));
-    rule.names[PvDefaultTemplateTypeDesign] = PvValuePool::shared(removeUmlauts(PvXMLParser::attribute(entry, QStringLiteral("design"))));
+    rule.names[PvDefaultTemplateTypeLayout] = keptName(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());
+    rule.names[PvDefaultTemplateTypeBackground] = keptName(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
+    rule.names[PvDefaultTemplateTypeDesign] = keptName(PvXMLParser::attribute(entry, QStringLiteral("design")));
 
     const qsizetype entries = rule.entryCount();
     if (entries == 0)

@@ -2,6 +2,8 @@
 
 #include "pvproductproperties_export.h"
 
+#include <QHashFunctions>
+
 #include <QDebug>
 
 /*! The tilt of one page taken over from another page, multiplied by an invert factor. */
@@ -23,6 +25,11 @@ public:
     [[nodiscard]] bool operator==(const PvPageTiltRedirect& other) const;
     //! Differs in some field.
     [[nodiscard]] bool operator!=(const PvPageTiltRedirect& other) const { return !(*this == other); }
+    //! A hash of every field, for hash tables.
+    friend size_t qHash(const PvPageTiltRedirect& redirect, size_t seed = 0) noexcept
+    {
+        return qHashMulti(seed, redirect.m_sourcePageNr, redirect.m_targetPageNr, redirect.m_angleInvert);
+    }
 
 private:
     qint32 m_sourcePageNr = 0;

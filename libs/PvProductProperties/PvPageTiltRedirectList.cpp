@@ -1,5 +1,6 @@
 #include "PvPageTiltRedirectList.h"
 
+#include "PvValuePool.h"
 #include "PvXMLParser.h"
 
 PvPageTiltRedirectList::PvPageTiltRedirectList(const QDomElement& element)
@@ -13,6 +14,8 @@ PvPageTiltRedirectList::PvPageTiltRedirectList(const QDomElement& element)
             continue;
         append(PvPageTiltRedirect(source, target, PvXMLParser::intAttribute(child, QStringLiteral("angleinvert"), 1)));
     }
+    // Products of a family redirect alike.
+    QList<PvPageTiltRedirect>::operator=(PvValuePool::shared<QList<PvPageTiltRedirect>>(*this));
 }
 
 PvPageTiltRedirectList PvPageTiltRedirectList::filterBySourcePage(int pageNr) const

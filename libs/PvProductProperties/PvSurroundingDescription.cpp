@@ -103,7 +103,7 @@ void PvSurroundingDescriptionImpl::readChildren(const QDomElement& element)
     }
     calendarHoleConfig = PvCalendarHoleConfig(hole);
     if (!spirals.isNull())
-        spiralConfig = std::make_shared<const PvSpiralConfig>(spirals);
+        spiralConfig = std::allocate_shared<const PvSpiralConfig>(PvBlockPoolAllocator<PvSpiralConfig>(), spirals);
 }
 
 PvSurroundingDescription::PvSurroundingDescription()

@@ -19,8 +19,11 @@ T exact(const T& value)
 PvValuePool::PvValuePool()
     : m_inUse(activePool == nullptr)
 {
-    if (m_inUse)
-        activePool = this;
+    if (!m_inUse)
+        return;
+    m_strings = std::make_unique<Table<QString, 1024>>();
+    m_lists = std::make_unique<Table<QStringList, 256>>();
+    activePool = this;
 }
 
 PvValuePool::~PvValuePool()
@@ -42,7 +45,7 @@ PvValuePool* PvValuePool::current()
 
 qsizetype PvValuePool::size() const
 {
-    qsizetype held = m_strings.size() + m_lists.size();
+    qsizetype held = m_strings ? m_strings->size() + m_lists->size() : 0;
     for (const auto& table : m_tables)
         held += table ? table->size() : 0;
     return held;
@@ -55,7 +58,7 @@ QString PvValuePool::shared(const QString& text)
     // them cost more time than their copies take memory.
     if (!pool || text.size() < 4)
         return text;
-    QString& held = pool->m_strings.slot(qHash(text, 0));
+    QString& held = pool->m_strings->slot(qHash(text, 0));
     if (held != text)
         held = exact(text);
     return held;
@@ -66,7 +69,7 @@ QStringList PvValuePool::shared(const QStringList& list)
     PvValuePool* pool = current();
     if (!pool || list.isEmpty())
         return list;
-    QStringList& held = pool->m_lists.slot(qHash(list, 0));
+    QStringList& held = pool->m_lists->slot(qHash(list, 0));
     if (held != list) {
         QStringList copy;
         copy.reserve(list.size());

@@ -14,8 +14,8 @@
  * Lets the equal values that readers keep during one load share one copy. Product files
  * repeat the same image paths, category names, page lists and picture tables from file to
  * file; without the pool each description would keep its own copy of each, and with it the
- * parsed document it came from. The values are Qt's implicitly shared ones (strings, lists,
- * maps), for which a copy is a reference.
+ * parsed document it came from. The values are Qt's implicitly shared ones (strings and
+ * lists), for which a copy is a reference.
  *
  * The pool remembers the values it saw last, a fixed number of each type, in a table indexed
  * by their hash: a lookup costs one hash and one comparison with a value still in the cache,
@@ -75,8 +75,9 @@ private:
     static constexpr bool hasSqueeze(...) { return false; }
     [[nodiscard]] static PvValuePool* current();
 
-    Table<QString, 1024> m_strings;
-    Table<QStringList, 256> m_lists;
+    // On the heap: a pool lives on the stack of whoever loads, and its tables take some 30 KB.
+    std::unique_ptr<Table<QString, 1024>> m_strings;
+    std::unique_ptr<Table<QStringList, 256>> m_lists;
     std::vector<std::unique_ptr<TableBase>> m_tables;
     bool m_inUse = false;
 };

@@ -1,18 +1,12 @@
 #include "PvConfiguredArticleVariantList.h"
 
 #include "PvValuePool.h"
-#include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
 PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const QDomElement& product)
-    : PvConfiguredArticleVariantList(PvXMLChildren(product))
-{
-}
-
-PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const PvXMLChildren& product)
 {
     const QString variantTag = QStringLiteral("variant");
-    for (const QDomElement& list : product.all(u"variants")) {
+    for (QDomElement list = product.firstChildElement(QStringLiteral("variants")); !list.isNull(); list = list.nextSiblingElement(QStringLiteral("variants"))) {
         for (QDomElement v = list.firstChildElement(variantTag); !v.isNull(); v = v.nextSiblingElement(variantTag)) {
             m_variants.append({ PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true)),
                                 PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("name"))),

@@ -6,6 +6,7 @@
 #include "PvPageTypeList.h"
 #include "PvProductPropertiesLogging.h"
 #include "PvValuePool.h"
+#include "PvXMLAttribute.h"
 #include "PvXMLParser.h"
 
 #include <QStringList>
@@ -125,7 +126,7 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 
     QString layoutDefault;
     QString backgroundDefault = houseBackground();
-    if (const std::optional<QString> templates = PvXMLParser::optionalAttribute(entry, QStringLiteral("templates"))) {
+    if (const std::optional<QString> templates = PvXMLAttribute::value(entry, QStringLiteral("templates"))) {
         QVarLengthArray<QStringView, 4> parts;
         for (const QStringView part : QStringView(*templates).tokenize(u',', Qt::SkipEmptyParts))
             parts.append(part);

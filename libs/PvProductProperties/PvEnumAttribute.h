@@ -1,7 +1,7 @@
 #pragma once
 
 #include "PvPageAlignment.h"
-#include "PvXMLParser.h"
+#include "PvXMLAttribute.h"
 
 #include <QDomElement>
 
@@ -12,7 +12,7 @@
 template <typename Wrapper>
 Wrapper pvEnumAttribute(const QDomElement& element, const QString& name, const Wrapper& fallback)
 {
-    const std::optional<QString> text = PvXMLParser::optionalAttribute(element, name);
+    const std::optional<QString> text = PvXMLAttribute::value(element, name);
     return text ? Wrapper(*text) : fallback;
 }
 

@@ -1,6 +1,7 @@
 #include "PvXMLParser.h"
 
 #include "PvDiagnostics.h"
+#include "PvXMLAttribute.h"
 
 #include <QStringTokenizer>
 #include <QStringView>
@@ -53,7 +54,7 @@ bool lowerCaseEquals(QStringView text, QLatin1String word)
 
 std::optional<double> doubleOf(const QDomElement& element, const QString& name)
 {
-    const std::optional<QString> text = PvXMLParser::optionalAttribute(element, name);
+    const std::optional<QString> text = PvXMLAttribute::value(element, name);
     if (!text)
         return std::nullopt;
     const QStringView trimmed = QStringView(*text).trimmed();
@@ -94,20 +95,9 @@ int intCoordinate(const QDomElement& element, const QString& name)
 }
 }
 
-// One lookup whether the attribute is there or not: a missing one answers the default
-// given, which no attribute's text can share its characters with.
-std::optional<QString> PvXMLParser::optionalAttribute(const QDomElement& element, const QString& name)
-{
-    static const QString missing = QStringLiteral("\u0000missing");
-    QString text = element.attribute(name, missing);
-    if (text.constData() == missing.constData())
-        return std::nullopt;
-    return text;
-}
-
 QString PvXMLParser::attribute(const QDomElement& element, const QString& name, const QString& defaultValue, bool trim)
 {
-    const std::optional<QString> text = PvXMLParser::optionalAttribute(element, name);
+    const std::optional<QString> text = PvXMLAttribute::value(element, name);
     if (!text)
         return defaultValue;
     return trim ? text->trimmed() : *text;
@@ -115,7 +105,7 @@ QString PvXMLParser::attribute(const QDomElement& element, const QString& name, 
 
 bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name, bool defaultValue)
 {
-    const std::optional<QString> value = PvXMLParser::optionalAttribute(element, name);
+    const std::optional<QString> value = PvXMLAttribute::value(element, name);
     if (!value)
         return defaultValue;
     const QStringView text = QStringView(*value).trimmed();
@@ -130,7 +120,7 @@ bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name,
 
 int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, int defaultValue)
 {
-    const std::optional<QString> text = PvXMLParser::optionalAttribute(element, name);
+    const std::optional<QString> text = PvXMLAttribute::value(element, name);
     if (!text)
         return defaultValue;
     bool ok = false;

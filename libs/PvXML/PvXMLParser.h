@@ -20,8 +20,6 @@
 class PVXML_EXPORT PvXMLParser
 {
 public:
-    //! The attribute's text, or nothing when the element has no such attribute.
-    [[nodiscard]] static std::optional<QString> optionalAttribute(const QDomElement& element, const QString& name);
     //! The attribute's text; \a trim strips surrounding white space.
     [[nodiscard]] static QString attribute(const QDomElement& element, const QString& name, const QString& defaultValue = QString(), bool trim = false);
     //! "true"/"false", "1"/"0", "yes"/"no", in any case, blanks around ignored.

@@ -1,5 +1,4 @@
 #include "PvArticleVariants.h"
-#include "PvBlockPool.h"
 #include "PvCSSSkinManager.h"
 #include "PvCoverType.h"
 #include "PvDirectoryConfig.h"
@@ -11,10 +10,8 @@
 #include "PvProductChecker.h"
 #include "PvProductCheckerRegistry.h"
 #include "PvSingleton.h"
-#include "PvValuePool.h"
 #include "PvXMLBasedRegistry.h"
 #include "PvXMLBuilder.h"
-#include "PvXMLChildren.h"
 #include "PvXMLLoader.h"
 #include "PvXMLParser.h"
 
@@ -117,10 +114,6 @@ private Q_SLOTS:
     void intAttribute_data();
     void intAttribute();
     void otherReaders();
-    void optionalAttribute();
-    void childList();
-    void valuePool();
-    void blockPool();
     void rectReaders_data();
     void rectReaders();
     void builder();
@@ -201,113 +194,6 @@ void TestPlatform::otherReaders()
     QCOMPARE(PvXMLParser::intText(e, QStringLiteral("n"), 3), 17);
     QCOMPARE(PvXMLParser::intText(e, QStringLiteral("m"), 3), 3);
     QCOMPARE(PvXMLParser::intText(e, QStringLiteral("missing"), 3), 3);
-}
-
-void TestPlatform::optionalAttribute()
-{
-    const QDomElement e = element(QStringLiteral("<e empty='' text='a b'/>"));
-    QCOMPARE(PvXMLParser::optionalAttribute(e, QStringLiteral("empty")), std::optional<QString>(QString()));
-    QCOMPARE(PvXMLParser::optionalAttribute(e, QStringLiteral("text")), std::optional<QString>(QStringLiteral("a b")));
-    QCOMPARE(PvXMLParser::optionalAttribute(e, QStringLiteral("missing")), std::nullopt);
-    QCOMPARE(PvXMLParser::optionalAttribute(QDomElement(), QStringLiteral("text")), std::nullopt);
-    // A present empty attribute is the empty text, not the default.
-    QCOMPARE(PvXMLParser::attribute(e, QStringLiteral("empty"), QStringLiteral("dflt")), QString());
-}
-
-void TestPlatform::childList()
-{
-    const QDomElement e = element(QStringLiteral("<e>text<a n='1'/><!-- c --><b/><a n='2'/>more<c/><a n='3'/></e>"));
-    const PvXMLChildren children(e);
-    QCOMPARE(children.parent(), e);
-    for (const QString& tag : { QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"), QStringLiteral("d") })
-        QCOMPARE(children.first(tag), e.firstChildElement(tag));
-    QStringList numbers;
-    for (const QDomElement& a : children.all(u"a"))
-        numbers.append(a.attribute(QStringLiteral("n")));
-    QCOMPARE(numbers, QStringList({ QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3") }));
-    QVERIFY(PvXMLChildren(QDomElement()).all(u"a").isEmpty());
-}
-
-void TestPlatform::valuePool()
-{
-    // Two equal strings that do not share their characters, as two files' attributes would be.
-    const QString first = QStringLiteral("surroundings/") + QStringLiteral("shade.png");
-    const QString second = QStringLiteral("surroundings/shade") + QStringLiteral(".png");
-    QVERIFY(first.constData() != second.constData());
-    QCOMPARE(PvValuePool::shared(second).constData(), second.constData());
-
-    QString grown = QStringLiteral("Urlaub");
-    grown.reserve(100);
-    {
-        PvValuePool pool;
-        const QString a = PvValuePool::shared(first);
-        const QString b = PvValuePool::shared(second);
-        QCOMPARE(b, second);
-        QCOMPARE(b.constData(), a.constData());
-        {
-            // A pool made inside another one leaves the sharing to the outer pool.
-            PvValuePool inner;
-            QCOMPARE(PvValuePool::shared(QString(second)).constData(), a.constData());
-            QCOMPARE(inner.size(), 0);
-        }
-        QCOMPARE(PvValuePool::shared(second).constData(), a.constData());
-
-        // Kept strings hold no spare room.
-        const QString kept = PvValuePool::shared(grown);
-        QCOMPARE(kept, grown);
-        QCOMPARE(kept.capacity(), kept.size());
-
-        const QStringList ids = { QStringLiteral("matt"), first };
-        const QStringList same = PvValuePool::shared(QStringList({ QStringLiteral("matt"), second }));
-        QCOMPARE(PvValuePool::shared(ids).constData(), same.constData());
-        QCOMPARE(same.at(1).constData(), a.constData());
-
-        // Any value with a hash, kept without spare room; a short text stays as it is.
-        QList<int> pages;
-        pages.reserve(64);
-        pages << 3 << 4 << 5;
-        const QList<int> pooledPages = PvValuePool::shared(pages);
-        QCOMPARE(pooledPages, pages);
-        QCOMPARE(pooledPages.capacity(), 3);
-        QCOMPARE(PvValuePool::shared(QList<int>({ 3, 4, 5 })).constData(), pooledPages.constData());
-        const QString shortText = QStringLiteral("2") + QStringLiteral("01");
-        QCOMPARE(PvValuePool::shared(shortText).constData(), shortText.constData());
-        QCOMPARE(pool.size(), 5);
-    }
-    QCOMPARE(PvValuePool::shared(second).constData(), second.constData());
-}
-
-void TestPlatform::blockPool()
-{
-    struct Record : PvBlockPoolAllocated
-    {
-        explicit Record(const QString& value) : text(value) { }
-        QString text;
-        char payload[40] = {};
-    };
-    const std::size_t idle = PvBlockPool::idleBytes();
-    auto* first = new Record(QStringLiteral("first"));
-    delete first;
-    if (PvBlockPool::idleBytes() == idle)
-        QSKIP("every block comes from the general heap under AddressSanitizer");
-    QVERIFY(PvBlockPool::idleBytes() >= idle + sizeof(Record));
-    // The freed block is the next one of its size; the records are whole objects.
-    auto* second = new Record(QStringLiteral("second"));
-    QCOMPARE(static_cast<void*>(second), static_cast<void*>(first));
-    QCOMPARE(second->text, QStringLiteral("second"));
-    std::vector<std::unique_ptr<Record>> many;
-    for (int i = 0; i < 1000; ++i)
-        many.push_back(std::make_unique<Record>(QString::number(i)));
-    QCOMPARE(many.at(999)->text, QStringLiteral("999"));
-    delete second;
-    // Records larger than the pooled sizes come from the general heap and change nothing here.
-    struct Large : PvBlockPoolAllocated
-    {
-        char payload[4096];
-    };
-    const std::size_t before = PvBlockPool::idleBytes();
-    delete new Large;
-    QCOMPARE(PvBlockPool::idleBytes(), before);
 }
 
 void TestPlatform::rectReaders_data()

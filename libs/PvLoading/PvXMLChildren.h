@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pvxml_export.h"
+#include "pvloading_export.h"
 
 #include <QDomElement>
 #include <QList>
@@ -12,11 +12,13 @@
  * children of the same element ask this instead of walking the children once per name:
  * each walk costs a reference count change per node passed.
  */
-class PVXML_EXPORT PvXMLChildren
+class PVLOADING_EXPORT PvXMLChildren
 {
 public:
+    //! Lists the child elements of \a parent.
     explicit PvXMLChildren(const QDomElement& parent);
 
+    //! The element whose children these are.
     [[nodiscard]] const QDomElement& parent() const { return m_parent; }
     //! The first child named \a tag, as QDomElement::firstChildElement() finds it.
     [[nodiscard]] QDomElement first(QStringView tag) const;

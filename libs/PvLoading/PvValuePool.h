@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pvcore_export.h"
+#include "pvloading_export.h"
 
 #include <QString>
 #include <QStringList>
@@ -26,7 +26,7 @@
  * is in use stays idle, so that one load shares across everything it reads. Without a pool,
  * shared() answers its argument.
  */
-class PVCORE_EXPORT PvValuePool
+class PVLOADING_EXPORT PvValuePool
 {
 public:
     PvValuePool();

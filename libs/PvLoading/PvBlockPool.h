@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pvcore_export.h"
+#include "pvloading_export.h"
 
 #include <cstddef>
 
@@ -16,7 +16,7 @@
  * AddressSanitizer every block comes from the general heap, so that its checks still see
  * each one.
  */
-class PVCORE_EXPORT PvBlockPool
+class PVLOADING_EXPORT PvBlockPool
 {
 public:
     //! A block of at least \a size bytes, aligned for any type.
@@ -31,14 +31,19 @@ public:
 template <typename T>
 struct PvBlockPoolAllocator
 {
-    using value_type = T;
+    using value_type = T; //!< What it allocates.
     PvBlockPoolAllocator() = default;
+    //! Allocators of all types draw from the one pool.
     template <typename Other>
     PvBlockPoolAllocator(const PvBlockPoolAllocator<Other>&) noexcept { }
+    //! Room for \a count objects.
     [[nodiscard]] T* allocate(std::size_t count) { return static_cast<T*>(PvBlockPool::allocate(count * sizeof(T))); }
+    //! Gives back the room for \a count objects at \a block.
     void deallocate(T* block, std::size_t count) noexcept { PvBlockPool::deallocate(block, count * sizeof(T)); }
+    //! Any two free each other's blocks.
     template <typename Other>
     bool operator==(const PvBlockPoolAllocator<Other>&) const noexcept { return true; }
+    //! Never unequal.
     template <typename Other>
     bool operator!=(const PvBlockPoolAllocator<Other>&) const noexcept { return false; }
 };
@@ -47,6 +52,8 @@ struct PvBlockPoolAllocator
 class PvBlockPoolAllocated
 {
 public:
+    //! Takes the object's memory from the pool.
     static void* operator new(std::size_t size) { return PvBlockPool::allocate(size); }
+    //! Gives it back.
     static void operator delete(void* block, std::size_t size) noexcept { PvBlockPool::deallocate(block, size); }
 };

@@ -4,16 +4,6 @@
 
 namespace {
 thread_local PvValuePool* activePool = nullptr;
-
-// A copy holding no spare capacity: texts built by appending carry some.
-template <typename T>
-T exact(const T& value)
-{
-    T copy = value;
-    if (copy.capacity() > copy.size())
-        copy.squeeze();
-    return copy;
-}
 }
 
 PvValuePool::PvValuePool()

@@ -7,7 +7,6 @@
 
 #include <array>
 #include <memory>
-#include <type_traits>
 #include <vector>
 
 /*!
@@ -69,10 +68,15 @@ private:
         static const int id = nextTypeId();
         return id;
     }
+    // A copy of \a value without spare capacity: lists and texts built by appending carry some.
     template <typename T>
-    static constexpr auto hasSqueeze(int) -> decltype(std::declval<T&>().squeeze(), true) { return true; }
-    template <typename T>
-    static constexpr bool hasSqueeze(...) { return false; }
+    static T exact(const T& value)
+    {
+        T copy = value;
+        if (copy.capacity() > copy.size())
+            copy.squeeze();
+        return copy;
+    }
     [[nodiscard]] static PvValuePool* current();
 
     // On the heap: a pool lives on the stack of whoever loads, and its tables take some 30 KB.
@@ -109,11 +113,7 @@ T PvValuePool::shared(const T& value)
     if (!pool || value.isEmpty())
         return value;
     T& held = pool->table<T>().slot(qHash(value, 0));
-    if (!(held == value)) {
-        held = value;
-        // Lists built by appending carry spare capacity; the pooled copy does not.
-        if constexpr (hasSqueeze<T>(0))
-            held.squeeze();
-    }
+    if (!(held == value))
+        held = exact(value);
     return held;
 }

@@ -132,8 +132,7 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
             parts.append(part);
         if (parts.size() == 2)
             layoutDefault = parts.at(1).toString();
-        // Most name the house background: they share its text instead of copying it.
-        if (!parts.isEmpty() && parts.first() != backgroundDefault)
+        if (!parts.isEmpty())
             backgroundDefault = parts.first().toString();
     }
     rule.names[PvDefaultTemplateTypeLayout] = keptName(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());

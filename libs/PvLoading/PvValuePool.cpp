@@ -48,10 +48,7 @@ QString PvValuePool::shared(const QString& text)
     // them cost more time than their copies take memory.
     if (!pool || text.size() < 4)
         return text;
-    QString& held = pool->m_strings->slot(qHash(text, 0));
-    if (held != text)
-        held = exact(text);
-    return held;
+    return pool->m_strings->find(qHash(text, 0), text, exact<QString>);
 }
 
 QStringList PvValuePool::shared(const QStringList& list)
@@ -59,13 +56,11 @@ QStringList PvValuePool::shared(const QStringList& list)
     PvValuePool* pool = current();
     if (!pool || list.isEmpty())
         return list;
-    QStringList& held = pool->m_lists->slot(qHash(list, 0));
-    if (held != list) {
+    return pool->m_lists->find(qHash(list, 0), list, [](const QStringList& values) {
         QStringList copy;
-        copy.reserve(list.size());
-        for (const QString& text : list)
+        copy.reserve(values.size());
+        for (const QString& text : values)
             copy.append(shared(text));
-        held = copy;
-    }
-    return held;
+        return copy;
+    });
 }

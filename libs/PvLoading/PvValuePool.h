@@ -5,8 +5,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 #include <vector>
 
 /*!
@@ -17,9 +19,9 @@
  * lists), for which a copy is a reference.
  *
  * The pool remembers the values it saw last, a fixed number of each type, in a table indexed
- * by their hash: a lookup costs one hash and one comparison with a value still in the cache,
- * and a pool's memory does not grow with the load. Equal values far apart in a load may
- * each keep a copy; products of one family stand close together.
+ * by their hash, four to a row: a lookup costs one hash and a few comparisons, and a
+ * pool's memory does not grow with the load. Equal values far apart in a load may each keep
+ * a copy; products of one family stand close together.
  *
  * A pool is in use on a thread while a PvValuePool lives there. A pool made while another
  * is in use stays idle, so that one load shares across everything it reads. Without a pool,
@@ -53,8 +55,27 @@ private:
     template <typename T, std::size_t Size>
     struct Table : TableBase
     {
+        // Four to a row, the last used first: values that hash alike no longer push each
+        // other out on every use (with one to a row, the files of a catalogue each kept their
+        // own copy of some paths).
+        static constexpr std::size_t ways = 4;
         std::array<T, Size> held;
-        T& slot(size_t hash) { return held[hash & (Size - 1)]; }
+        // The held value equal to \a value, or \a make's copy of it, which then takes the
+        // place of the row's least recently used value.
+        template <typename Make>
+        const T& find(size_t hash, const T& value, Make make)
+        {
+            T* row = &held[(hash & (Size / ways - 1)) * ways];
+            std::size_t found = 0;
+            while (found < ways && !(row[found] == value))
+                ++found;
+            if (found == ways) {
+                found = ways - 1;
+                row[found] = make(value);
+            }
+            std::rotate(row, row + found, row + found + 1);
+            return row[0];
+        }
         [[nodiscard]] qsizetype size() const override;
     };
 
@@ -112,8 +133,5 @@ T PvValuePool::shared(const T& value)
     PvValuePool* pool = current();
     if (!pool || value.isEmpty())
         return value;
-    T& held = pool->table<T>().slot(qHash(value, 0));
-    if (!(held == value))
-        held = exact(value);
-    return held;
+    return pool->table<T>().find(qHash(value, 0), value, exact<T>);
 }

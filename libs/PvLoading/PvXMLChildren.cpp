@@ -1,9 +1,11 @@
 #include "PvXMLChildren.h"
 
+#include "PvXMLChildElements.h"
+
 PvXMLChildren::PvXMLChildren(const QDomElement& parent)
     : m_parent(parent)
 {
-    for (QDomElement child = parent.firstChildElement(); !child.isNull(); child = child.nextSiblingElement())
+    for (const QDomElement child : PvXMLChildElements(parent))
         m_children.append({ child.tagName(), child });
 }
 

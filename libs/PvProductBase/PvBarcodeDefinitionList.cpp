@@ -2,12 +2,13 @@
 
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 PvBarcodeDefinitionList PvBarcodeDefinitionList::createFromProductsXML(const QDomElement& barcodes, PvDistanceUnit unit)
 {
     PvBarcodeDefinitionList list;
     const QString tag = QStringLiteral("barcode");
-    for (QDomElement b = barcodes.firstChildElement(tag); !b.isNull(); b = b.nextSiblingElement(tag)) {
+    for (const QDomElement b : PvXMLChildElements(barcodes, tag)) {
         list.m_barcodes.append({ PvValuePool::shared(PvXMLParser::attribute(b, QStringLiteral("type"), QString(), true)),
                                  PvXMLParser::intAttribute(b, QStringLiteral("page"), 0),
                                  PvXMLParser::readDistance(b, QStringLiteral("x"), 0.0, unit),

@@ -2,12 +2,13 @@
 
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const QDomElement& product)
 {
     const QString variantTag = QStringLiteral("variant");
-    for (QDomElement list = product.firstChildElement(QStringLiteral("variants")); !list.isNull(); list = list.nextSiblingElement(QStringLiteral("variants"))) {
-        for (QDomElement v = list.firstChildElement(variantTag); !v.isNull(); v = v.nextSiblingElement(variantTag)) {
+    for (const QDomElement list : PvXMLChildElements(product, QStringLiteral("variants"))) {
+        for (const QDomElement v : PvXMLChildElements(list, variantTag)) {
             m_variants.append({ PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true)),
                                 PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("name"))),
                                 PvXMLParser::boolAttribute(v, QStringLiteral("default"), false) });

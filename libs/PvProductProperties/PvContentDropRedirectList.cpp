@@ -3,6 +3,7 @@
 #include "PvProductDiagnostics.h"
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QStringList>
 
@@ -55,7 +56,7 @@ PvContentDropRedirectList::PvContentDropRedirectList(const QDomElement& contentr
 {
     const QString tag = QStringLiteral("contentredirect");
     Runs runs;
-    for (QDomElement child = contentredirects.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag))
+    for (const QDomElement child : PvXMLChildElements(contentredirects, tag))
         read(child, &runs);
     m_runs.reserve(runs.size());
     for (auto it = runs.cbegin(); it != runs.cend(); ++it)

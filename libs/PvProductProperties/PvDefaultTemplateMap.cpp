@@ -8,6 +8,7 @@
 #include "PvValuePool.h"
 #include "PvXMLAttribute.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QStringList>
 #include <QStringTokenizer>
@@ -45,7 +46,7 @@ void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
 {
     const QString tag = QStringLiteral("default");
     QDomElement firstSkipped;
-    for (QDomElement entry = defaults.firstChildElement(tag); !entry.isNull(); entry = entry.nextSiblingElement(tag)) {
+    for (const QDomElement entry : PvXMLChildElements(defaults, tag)) {
         if (!applyDefault(entry) && firstSkipped.isNull())
             firstSkipped = entry;
     }

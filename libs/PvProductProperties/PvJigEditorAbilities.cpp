@@ -5,6 +5,7 @@
 
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QMap>
 #include <QVarLengthArray>
@@ -99,7 +100,7 @@ PvJigEditorAbilities::PvJigEditorAbilities(const QDomElement& element)
     const bool requiresExactArticle = PvXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false);
     d = plainAbilities(enabled, rotatable, fullOnEachPage, requiresExactArticle);
     const QString tag = QStringLiteral("categories");
-    for (QDomElement child = element.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag)) {
+    for (const QDomElement child : PvXMLChildElements(element, tag)) {
         PvJigEditorAbilitiesImpl::Categories entry = readCategories(child);
         if (entry.pageTypes != 0)
             d->categories.append(std::move(entry)); // the first one detaches from the shared copy

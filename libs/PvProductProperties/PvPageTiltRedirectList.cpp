@@ -2,11 +2,12 @@
 
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 PvPageTiltRedirectList::PvPageTiltRedirectList(const QDomElement& element)
 {
     const QString tag = QStringLiteral("rotationredirect");
-    for (QDomElement child = element.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag)) {
+    for (const QDomElement child : PvXMLChildElements(element, tag)) {
         const int source = PvXMLParser::intAttribute(child, QStringLiteral("from"), -2);
         const int target = PvXMLParser::intAttribute(child, QStringLiteral("to"), -2);
         // -1 is a real page number (a page outside the normal numbering); only below is invalid.

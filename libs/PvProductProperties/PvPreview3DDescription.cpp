@@ -5,6 +5,7 @@
 #include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QCoreApplication>
 #include <QSharedData>
@@ -20,8 +21,8 @@ struct Camera
 
 Camera readCamera(const QDomElement& element)
 {
-    return { PvXMLParser::readVector3D(element.firstChildElement(QStringLiteral("position"))),
-        PvXMLParser::readVector3D(element.firstChildElement(QStringLiteral("lookAt"))) };
+    return { PvXMLParser::readVector3D(PvXMLChildElements::first(element, QStringLiteral("position"))),
+        PvXMLParser::readVector3D(PvXMLChildElements::first(element, QStringLiteral("lookAt"))) };
 }
 
 QString numberText(float value)
@@ -81,7 +82,7 @@ void PvPreview3DDescription::init(const QDomElement& product)
 {
     const QString previewName = QStringLiteral("preview3D");
     const bool isPreview = product.tagName() == previewName;
-    const QDomElement preview = isPreview ? product : product.firstChildElement(previewName);
+    const QDomElement preview = isPreview ? product : PvXMLChildElements::first(product, previewName);
     const QDomElement owner = isPreview ? product.parentNode().toElement() : product;
 
     if (preview.isNull()) {

@@ -2,6 +2,7 @@
 
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <algorithm>
 
@@ -35,7 +36,7 @@ void PvProductEditorAbilitiesImpl::readJigs(const QDomElement& jigsElement)
 {
     // The button belongs to "jigs", not to "editorAbilities": without "jigs" it never shows.
     showChangeBaseDesignButton = PvXMLParser::boolAttribute(jigsElement, QStringLiteral("showChangeBaseDesignButton"), false);
-    for (QDomElement child = jigsElement.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+    for (const QDomElement child : PvXMLChildElements(jigsElement)) {
         const PvJigType jigType(child.tagName());
         if (!jigType.isValid())
             continue;

@@ -6,6 +6,7 @@
 #include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QStringList>
 
@@ -17,7 +18,7 @@ constexpr quint32 alignmentSpineMask = 0xF03E1;
 
 QDomElement child(const QDomElement& element, const QString& name)
 {
-    return element.firstChildElement(name);
+    return PvXMLChildElements::first(element, name);
 }
 
 // The longest page list pageTypes() builds. The thickest products have a few hundred pages;

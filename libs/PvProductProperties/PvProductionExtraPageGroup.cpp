@@ -2,6 +2,7 @@
 
 #include "PvProductDiagnostics.h"
 #include "PvValuePool.h"
+#include "PvXMLChildElements.h"
 
 #include <utility>
 
@@ -16,12 +17,13 @@ PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item)
 }
 
 PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item, int pageBudget)
-    : m_content(item.firstChildElement(QStringLiteral("pdf")))
+    : m_content(PvXMLChildElements::first(item, QStringLiteral("pdf")))
 {
-    readTargetPages(item.firstChildElement(QStringLiteral("target_pages")), pageBudget);
-    if (PvProductDiagnostics::listening() && item.firstChildElement(QStringLiteral("pdf")).isNull() && !item.isNull())
+    const QDomElement targetPages = PvXMLChildElements::first(item, QStringLiteral("target_pages"));
+    readTargetPages(targetPages, pageBudget);
+    if (PvProductDiagnostics::listening() && PvXMLChildElements::first(item, QStringLiteral("pdf")).isNull() && !item.isNull())
         PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"pdf\" adds empty pages"));
-    if (PvProductDiagnostics::listening() && item.firstChildElement(QStringLiteral("target_pages")).isNull() && !item.isNull())
+    if (PvProductDiagnostics::listening() && targetPages.isNull() && !item.isNull())
         PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"target_pages\" goes on no page"));
 }
 

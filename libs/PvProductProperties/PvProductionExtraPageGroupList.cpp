@@ -1,4 +1,5 @@
 #include "PvProductionExtraPageGroupList.h"
+#include "PvXMLChildElements.h"
 
 PvProductionExtraPageGroupList::PvProductionExtraPageGroupList() = default;
 
@@ -6,7 +7,7 @@ PvProductionExtraPageGroupList::PvProductionExtraPageGroupList(const QDomElement
 {
     const QString item = QStringLiteral("item");
     int total = 0;
-    for (QDomElement element = extraPages.firstChildElement(item); !element.isNull(); element = element.nextSiblingElement(item)) {
+    for (const QDomElement element : PvXMLChildElements(extraPages, item)) {
         // The budget spans the whole list, so many items cannot add up to what one range may not.
         m_groups.append(PvProductionExtraPageGroup(element, PvProductionExtraPageGroup::maxTargetPages - total));
         total += int(m_groups.constLast().targetPages().size());

@@ -7,6 +7,7 @@
 #include "PvProductPropertiesLogging.h"
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QColor>
 #include <QDir>
@@ -93,7 +94,7 @@ PvSpiralConfig::PvSpiralConfig(const QDomElement& element)
 {
     const QString defaultVariant = QStringLiteral("spiralbinding-one-loop-vertical.png");
     m_variant = PvValuePool::shared(confinedPath(element, QStringLiteral("variant"), defaultVariant));
-    readLoopImages(element.firstChildElement(QStringLiteral("loopImages")));
+    readLoopImages(PvXMLChildElements::first(element, QStringLiteral("loopImages")));
     if (PvProductDiagnostics::listening() && element.hasAttribute(QStringLiteral("hookWidth")) != element.hasAttribute(QStringLiteral("hookHeight")))
         PvProductDiagnostics::report(PvDiagnostic::Error, element, QStringLiteral("a hook needs both \"hookWidth\" and \"hookHeight\"; without either there is no hook"));
 }
@@ -131,7 +132,7 @@ auto findColour(List& images, const QString& colour)
 void PvSpiralConfig::readLoopImages(const QDomElement& element)
 {
     const QString loopImage = QStringLiteral("loopImage");
-    for (QDomElement child = element.firstChildElement(loopImage); !child.isNull(); child = child.nextSiblingElement(loopImage)) {
+    for (const QDomElement child : PvXMLChildElements(element, loopImage)) {
         const QString colour = PvXMLParser::attribute(child, QStringLiteral("variant"));
         const QString file = confinedPath(child, QStringLiteral("imagePath"), QString());
         if (colour.isEmpty() || file.isEmpty())

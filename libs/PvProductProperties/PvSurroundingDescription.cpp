@@ -5,6 +5,7 @@
 #include "PvSurroundingKey.h"
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
+#include "PvXMLChildElements.h"
 
 #include <QDomAttr>
 #include <QDomDocument>
@@ -93,8 +94,9 @@ void PvSurroundingDescriptionImpl::readChildren(const QDomElement& element)
     // and the first "spirals" counting.
     QDomElement hole;
     QDomElement spirals;
-    for (QDomElement child = element.firstChildElement(); !child.isNull() && (hole.isNull() || spirals.isNull());
-         child = child.nextSiblingElement()) {
+    for (const QDomElement child : PvXMLChildElements(element)) {
+        if (!hole.isNull() && !spirals.isNull())
+            break;
         const QString tag = child.tagName();
         if (hole.isNull() && tag == QLatin1String("hole"))
             hole = child;

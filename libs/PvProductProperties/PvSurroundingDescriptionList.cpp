@@ -2,6 +2,7 @@
 
 #include "PvSurroundingKey.h"
 #include "PvXMLChildren.h"
+#include "PvXMLChildElements.h"
 
 #include <algorithm>
 
@@ -14,7 +15,7 @@ PvSurroundingDescriptionList::PvSurroundingDescriptionList(const PvProductType& 
 {
     const QString itemName = QStringLiteral("surrounding");
     for (const QDomElement& block : product.all(u"surroundings")) {
-        for (QDomElement item = block.firstChildElement(itemName); !item.isNull(); item = item.nextSiblingElement(itemName))
+        for (const QDomElement item : PvXMLChildElements(block, itemName))
             append(PvSurroundingDescription(productType, item));
     }
     squeeze();

@@ -2,6 +2,7 @@
 
 #include "PvDiagnostics.h"
 #include "PvXMLAttribute.h"
+#include "PvXMLChildElements.h"
 
 #include <QStringTokenizer>
 #include <QStringView>
@@ -178,7 +179,7 @@ QVector3D PvXMLParser::readVector3D(const QDomElement& element, const QVector3D&
 
 int PvXMLParser::intText(const QDomElement& element, const QString& childName, int defaultValue)
 {
-    const QDomElement child = element.firstChildElement(childName);
+    const QDomElement child = PvXMLChildElements::first(element, childName);
     if (child.isNull())
         return defaultValue;
     bool ok = false;

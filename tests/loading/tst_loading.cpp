@@ -1,6 +1,7 @@
 #include "PvBlockPool.h"
 #include "PvValuePool.h"
 #include "PvXMLAttribute.h"
+#include "PvXMLChildElements.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
 
@@ -26,6 +27,8 @@ class TestLoading : public QObject
 
 private Q_SLOTS:
     void attributeValue();
+    void childElements_data();
+    void childElements();
     void childList();
     void valuePool();
     void blockPool();
@@ -42,6 +45,35 @@ void TestLoading::attributeValue()
     QCOMPARE(PvXMLParser::attribute(e, QStringLiteral("empty"), QStringLiteral("dflt")), QString());
 }
 
+void TestLoading::childElements_data()
+{
+    QTest::addColumn<QString>("xml");
+    QTest::addColumn<QString>("tag");
+    const QString mixed = QStringLiteral("<e>text<a n='1'/><!-- c --><b/><?pi x?><a n='2'><a n='inner'/></a>more<![CDATA[<a/>]]><c/><a n='3'/></e>");
+    QTest::newRow("every child") << mixed << QString();
+    QTest::newRow("one tag among others") << mixed << QStringLiteral("a");
+    QTest::newRow("single") << mixed << QStringLiteral("b");
+    QTest::newRow("absent tag") << mixed << QStringLiteral("d");
+    QTest::newRow("no children") << QStringLiteral("<e/>") << QString();
+    QTest::newRow("only text") << QStringLiteral("<e>just text</e>") << QStringLiteral("a");
+    QTest::newRow("prefixed names, no namespace processing") << QStringLiteral("<e><p:a/><a/><p:a/></e>") << QStringLiteral("p:a");
+}
+
+void TestLoading::childElements()
+{
+    QFETCH(QString, xml);
+    QFETCH(QString, tag);
+    const QDomElement e = element(xml);
+    QList<QDomElement> expected;
+    for (QDomElement child = e.firstChildElement(tag); !child.isNull(); child = child.nextSiblingElement(tag))
+        expected.append(child);
+    QList<QDomElement> walked;
+    for (const QDomElement child : PvXMLChildElements(e, tag))
+        walked.append(child);
+    QCOMPARE(walked, expected);
+    QCOMPARE(PvXMLChildElements::first(e, tag), e.firstChildElement(tag));
+}
+
 void TestLoading::childList()
 {
     const QDomElement e = element(QStringLiteral("<e>text<a n='1'/><!-- c --><b/><a n='2'/>more<c/><a n='3'/></e>"));
@@ -54,6 +86,16 @@ void TestLoading::childList()
         numbers.append(a.attribute(QStringLiteral("n")));
     QCOMPARE(numbers, QStringList({ QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3") }));
     QVERIFY(PvXMLChildren(QDomElement()).all(u"a").isEmpty());
+    QVERIFY(PvXMLChildElements::first(QDomElement(), QStringLiteral("a")).isNull());
+
+    // An element made with a namespace has a prefix that its tag name leaves out.
+    QDomDocument document;
+    QDomElement root = document.createElement(QStringLiteral("e"));
+    document.appendChild(root);
+    root.appendChild(document.createElementNS(QStringLiteral("urn:x"), QStringLiteral("p:a")));
+    root.appendChild(document.createElement(QStringLiteral("a")));
+    for (const QString& tag : { QStringLiteral("a"), QStringLiteral("p:a") })
+        QCOMPARE(PvXMLChildElements::first(root, tag), root.firstChildElement(tag));
 }
 
 void TestLoading::valuePool()
@@ -101,6 +143,14 @@ void TestLoading::valuePool()
         const QString shortText = QStringLiteral("2") + QStringLiteral("01");
         QCOMPARE(PvValuePool::shared(shortText).constData(), shortText.constData());
         QCOMPARE(pool.size(), 5);
+
+        // Paths used in turn by the files of a catalogue each keep one copy, whatever their
+        // hashes: a working set of a hundred texts, met again, is shared all through.
+        QStringList paths;
+        for (int i = 0; i < 100; ++i)
+            paths.append(PvValuePool::shared(QStringLiteral("surroundings/frame-%1.png").arg(i)));
+        for (int i = 0; i < 100; ++i)
+            QCOMPARE(PvValuePool::shared(QStringLiteral("surroundings/frame-%1.png").arg(i)).constData(), paths.at(i).constData());
     }
     QCOMPARE(PvValuePool::shared(second).constData(), second.constData());
 }

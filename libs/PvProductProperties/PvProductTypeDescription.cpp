@@ -65,7 +65,7 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     initIdentity(product);
     initArticleClass(product);
     initImageFX(product);
-    m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding")));
+    m_coverType = PvCoverType(PvXMLParser::attribute(product, QStringLiteral("binding"))).value();
     PvProductDiagnostics::checkEnum<PvCoverType>(product, QStringLiteral("binding"), "cover type");
     initLayout(elements);
     initRedirectsAndDefaults(elements);
@@ -94,28 +94,28 @@ void PvProductTypeDescription::initIdentity(const QDomElement& product)
 
 void PvProductTypeDescription::initArticleClass(const QDomElement& product)
 {
-    m_articleClass = PvArticleClass(PvXMLParser::attribute(product, QStringLiteral("class"), QStringLiteral("unknown"), true));
+    m_articleClass = PvArticleClass(PvXMLParser::attribute(product, QStringLiteral("class"), QStringLiteral("unknown"), true)).value();
     PvProductDiagnostics::checkEnum<PvArticleClass>(product, QStringLiteral("class"), "article class");
-    const int classes = qPopulationCount(quint64(pvSplitBitsMask(m_articleClass.value())));
+    const int classes = qPopulationCount(quint64(pvSplitBitsMask(m_articleClass)));
     if (classes != 1) {
         if (classes > 1)
             PvProductDiagnostics::report(PvDiagnostic::Error, product, QStringLiteral("attribute \"class\": a product has exactly one article class"), QStringLiteral("class"));
-        m_articleClass = PvArticleClass();
+        m_articleClass = PvArticleClass().value();
     }
 }
 
 void PvProductTypeDescription::initImageFX(const QDomElement& product)
 {
-    m_imageFX = PvImageFXs(PvXMLParser::attribute(product, QStringLiteral("imageFXs")));
+    m_imageFX = PvImageFXs(PvXMLParser::attribute(product, QStringLiteral("imageFXs"))).value();
     PvProductDiagnostics::checkEnum<PvImageFXs>(product, QStringLiteral("imageFXs"), "image effect");
-    m_canHaveBorder = m_canHaveShadow = !m_imageFX.hasAnyOf(PvImageFXsGrayscale);
+    m_canHaveBorder = m_canHaveShadow = !imageFX().hasAnyOf(PvImageFXsGrayscale);
 }
 
 void PvProductTypeDescription::initLayout(const PvXMLChildren& elements)
 {
     const QDomElement& product = elements.parent();
     m_horizontalPages = PvXMLParser::boolAttribute(product, QStringLiteral("horizontalPages"), true);
-    m_productAlignment = PvProductAlignmentStyle(PvXMLParser::attribute(product, QStringLiteral("productAlignment")));
+    m_productAlignment = PvProductAlignmentStyle(PvXMLParser::attribute(product, QStringLiteral("productAlignment"))).value();
     PvProductDiagnostics::checkEnum<PvProductAlignmentStyle>(product, QStringLiteral("productAlignment"), "product alignment style");
     m_mustPaintMiralLogoOnSpine = PvXMLParser::boolAttribute(product, QStringLiteral("hasLogoOnSpine"), false);
     m_surroundings = PvSurroundingDescriptionList(m_productType, elements);
@@ -161,7 +161,7 @@ void PvProductTypeDescription::initPageNumbering(const PvXMLChildren& product)
 void PvProductTypeDescription::initReplacement(const QDomElement& product)
 {
     m_replacedByProduct = PvProductType(PvXMLParser::attribute(product, QStringLiteral("replacedBy"), QString(), true));
-    m_conversionStrategy = PvXMLRewriterStrategy(PvXMLParser::attribute(product, QStringLiteral("conversionStrategy"), QString(), true));
+    m_conversionStrategy = PvXMLRewriterStrategy(PvXMLParser::attribute(product, QStringLiteral("conversionStrategy"), QString(), true)).value();
     PvProductDiagnostics::checkEnum<PvXMLRewriterStrategy>(product, QStringLiteral("conversionStrategy"), "conversion strategy");
 }
 
@@ -192,24 +192,24 @@ int PvProductTypeDescription::decodeFoldSafetyMargin(const QDomElement& element)
 
 bool PvProductTypeDescription::isValid() const
 {
-    if (!m_articleClass.isValid())
+    if (!articleClass().isValid())
         return false;
-    return m_coverType.isValid() || m_articleClass.hasAnyOf(PvArticleClassPrints);
+    return coverType().isValid() || articleClass().hasAnyOf(PvArticleClassPrints);
 }
 
 bool PvProductTypeDescription::isSimplex() const
 {
-    return m_coverType.isSimplex();
+    return coverType().isSimplex();
 }
 
 bool PvProductTypeDescription::isVarioCard() const
 {
-    return m_articleClass.hasAnyOf(PvArticleClassCard) && m_isVario;
+    return articleClass().hasAnyOf(PvArticleClassCard) && m_isVario;
 }
 
 bool PvProductTypeDescription::isEasyCard() const
 {
-    return m_articleClass == PvArticleClassCard && !m_isVario;
+    return articleClass() == PvArticleClassCard && !m_isVario;
 }
 
 PvPageTypeList PvProductTypeDescription::pageTypes(unsigned int pageCount) const
@@ -287,8 +287,8 @@ PvPageAlignment PvProductTypeDescription::pageAlignment(const PvPageTypeList& pa
 {
     const bool h = m_horizontalPages;
     const bool odd = index % 2 != 0;
-    if (m_coverType.isSimplex()) {
-        switch (m_productAlignment.toUnderlying()) {
+    if (coverType().isSimplex()) {
+        switch (productAlignment().toUnderlying()) {
         case PvProductAlignmentStyleNormal:
             return horizontalOr(h, PvPageAlignmentRight, PvPageAlignmentBottom);
         case PvProductAlignmentStyleCard:

@@ -50,9 +50,9 @@ public:
     //! The product type this file describes ("name" of the product element).
     [[nodiscard]] PvProductType productType() const { return m_productType; }
     //! The article class, one bit for a valid product.
-    [[nodiscard]] PvArticleClass articleClass() const { return m_articleClass; }
+    [[nodiscard]] PvArticleClass articleClass() const { return PvArticleClass(m_articleClass); }
     //! The cover type ("binding"); 0 when the file gives none.
-    [[nodiscard]] PvCoverType coverType() const { return m_coverType; }
+    [[nodiscard]] PvCoverType coverType() const { return PvCoverType(m_coverType); }
     //! A set of cards of different designs ("isVario").
     [[nodiscard]] bool isVario() const { return m_isVario; }
     //! Printed on both sides ("isTwoSided").
@@ -60,7 +60,7 @@ public:
     //! For a retired product: the product that replaces it; empty otherwise.
     [[nodiscard]] PvProductType replacedByProduct() const { return m_replacedByProduct; }
     //! For a retired product: how an old project is rewritten for its replacement.
-    [[nodiscard]] PvXMLRewriterStrategy conversionStrategy() const { return m_conversionStrategy; }
+    [[nodiscard]] PvXMLRewriterStrategy conversionStrategy() const { return PvXMLRewriterStrategy(m_conversionStrategy); }
 
     /*!
      * A product needs exactly one article class and a cover type; only the "prints" class
@@ -81,7 +81,7 @@ public:
     //! A spine and no printed inside covers, which leave no room for text on the spine.
     [[nodiscard]] bool hasTextOnSpine() const { return m_hasTextOnSpine; }
     //! The image effects the editor offers ("imageFXs").
-    [[nodiscard]] PvImageFXs imageFX() const { return m_imageFX; }
+    [[nodiscard]] PvImageFXs imageFX() const { return PvImageFXs(m_imageFX); }
     //! -1 when the product file gives none.
     [[nodiscard]] int foldSafetyMargin() const { return m_foldSafetyMargin; }
     //! Whether pictures may have a border.
@@ -89,7 +89,7 @@ public:
     //! Whether pictures may cast a shadow.
     [[nodiscard]] bool canHaveShadow() const { return m_canHaveShadow; }
     //! How the editor aligns the product's pages ("productAlignment").
-    [[nodiscard]] PvProductAlignmentStyle productAlignment() const { return m_productAlignment; }
+    [[nodiscard]] PvProductAlignmentStyle productAlignment() const { return PvProductAlignmentStyle(m_productAlignment); }
     //! Whether pages are laid side by side ("horizontalPages", default true).
     [[nodiscard]] bool horizontalPages() const { return m_horizontalPages; }
     //! The configured article variants of the product.
@@ -211,20 +211,7 @@ private:
 
     PvProductClassification m_classification;
     PvProductType m_productType;
-    PvArticleClass m_articleClass;
-    PvCoverType m_coverType;
-    bool m_isVario = false;
-    bool m_isTwoSided = false;
-    bool m_hasSpine = false;
-    bool m_mustPaintMiralLogoOnSpine = false;
-    bool m_hasTextOnSpine = false;
-    PvImageFXs m_imageFX;
-    int m_foldSafetyMargin = 0;
-    bool m_canHaveBorder = false;
-    bool m_canHaveShadow = false;
     PvPageTypeList m_pageTypes;
-    PvProductAlignmentStyle m_productAlignment;
-    bool m_horizontalPages = false;
     PvProductionNumberingList m_productionNumbering;
     PvConfiguredArticleVariantList m_variants;
     QList<int> m_pagesWithContent;
@@ -234,13 +221,28 @@ private:
     PvDefaultTemplateMap m_defaultTemplates;
     PvDistance m_pageNumberHorizontalIndent;
     PvDistance m_pageNumberVerticalIndent;
-    int m_pageNumberFontSize = 0;
     PvProductionExtraPageGroupList m_extraProductionContents;
     PvProductType m_replacedByProduct;
-    PvXMLRewriterStrategy m_conversionStrategy;
     PvProductEditorAbilities m_editorAbilities;
     QString m_priceListCategory;
-    int m_tiltAngle = 0;
     PvBarcodeDefinitionList m_barcodeDefinitions;
     PvPreview3DDescription m_preview3DDescription;
+    // Enumerations are kept as their values and wrapped when asked for: each wrapper would
+    // carry a pointer to its virtual table. The small members come last, without gaps.
+    PvArticleClassEnum m_articleClass = PvArticleClass().value();
+    PvCoverTypeEnum m_coverType = PvCoverType().value();
+    PvImageFXsEnum m_imageFX = PvImageFXs().value();
+    PvProductAlignmentStyleEnum m_productAlignment = PvProductAlignmentStyle().value();
+    PvXMLRewriterStrategyEnum m_conversionStrategy = PvXMLRewriterStrategy().value();
+    int m_foldSafetyMargin = 0;
+    int m_pageNumberFontSize = 0;
+    int m_tiltAngle = 0;
+    bool m_isVario = false;
+    bool m_isTwoSided = false;
+    bool m_hasSpine = false;
+    bool m_mustPaintMiralLogoOnSpine = false;
+    bool m_hasTextOnSpine = false;
+    bool m_canHaveBorder = false;
+    bool m_canHaveShadow = false;
+    bool m_horizontalPages = false;
 };

@@ -2,6 +2,7 @@
 
 #include "PvProductDiagnostics.h"
 
+#include "PvBlockPool.h"
 #include "PvValuePool.h"
 #include "PvXMLChildren.h"
 #include "PvXMLParser.h"
@@ -44,7 +45,58 @@ bool isInch(const PvDistanceUnit& unit)
 }
 }
 
-PvProductClassification::PvProductClassification() = default;
+class PvProductClassificationData : public QSharedData, public PvBlockPoolAllocated
+{
+public:
+    // Reads the "classification" element \a classification; a null one gives the empty data.
+    static QSharedDataPointer<PvProductClassificationData> read(const QDomElement& classification);
+    void calculateSize();
+
+    PvProductClassificationGroup group;
+    QString cmName;
+    QString inchName;
+    int cmWidth = 0;
+    int cmHeight = 0;
+    int inchWidth = -1;
+    int inchHeight = -1;
+};
+
+QSharedDataPointer<PvProductClassificationData> PvProductClassificationData::read(const QDomElement& classification)
+{
+    const auto readFrom = [](const QDomElement& element) {
+        QSharedDataPointer<PvProductClassificationData> data(new PvProductClassificationData);
+        data->cmName = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("cm")));
+        data->inchName = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("inch")));
+        // Older product files were written in UTF-8 but read as Latin-1; going back to the
+        // bytes repairs them. A correct value outside ASCII does not survive this, and never did.
+        data->group = PvProductClassificationGroup(PvValuePool::shared(QString::fromUtf8(PvXMLParser::attribute(element, QStringLiteral("group")).toLatin1())));
+        data->calculateSize();
+        return data;
+    };
+    if (!classification.isNull())
+        return readFrom(classification);
+    // Read from no element like any other, so that it holds exactly what that gives.
+    static const QSharedDataPointer<PvProductClassificationData> none = readFrom(QDomElement());
+    return none;
+}
+
+void PvProductClassificationData::calculateSize()
+{
+    const std::optional<QSize> cm = sizeFromName(cmName);
+    if (!cm)
+        return;
+    cmWidth = cm->width();
+    cmHeight = cm->height();
+    if (const std::optional<QSize> inch = sizeFromName(inchName)) {
+        inchWidth = inch->width();
+        inchHeight = inch->height();
+    }
+}
+
+PvProductClassification::PvProductClassification()
+    : d(PvProductClassificationData::read(QDomElement()))
+{
+}
 
 PvProductClassification::PvProductClassification(const QDomElement& product)
     : PvProductClassification(PvXMLChildren(product))
@@ -53,17 +105,11 @@ PvProductClassification::PvProductClassification(const QDomElement& product)
 
 // Trimmed like the description's own product type, so that both name the same product.
 PvProductClassification::PvProductClassification(const PvXMLChildren& product)
-    : m_productType(PvXMLParser::attribute(product.parent(), QStringLiteral("name"), QString(), true))
+    : d(PvProductClassificationData::read(product.first(u"classification")))
+    , m_productType(PvXMLParser::attribute(product.parent(), QStringLiteral("name"), QString(), true))
 {
-    const QDomElement classification = product.first(u"classification");
-    m_cmName = PvValuePool::shared(PvXMLParser::attribute(classification, QStringLiteral("cm")));
-    m_inchName = PvValuePool::shared(PvXMLParser::attribute(classification, QStringLiteral("inch")));
-    // Older product files were written in UTF-8 but read as Latin-1; going back to the bytes
-    // repairs them. A correct value outside ASCII does not survive this, and never did.
-    m_group = PvProductClassificationGroup(PvValuePool::shared(QString::fromUtf8(PvXMLParser::attribute(classification, QStringLiteral("group")).toLatin1())));
-    calculateSize();
     if (PvProductDiagnostics::listening())
-        reportMistakes(classification);
+        reportMistakes(product.first(u"classification"));
 }
 
 PvProductClassification::PvProductClassification(const PvProductClassification& other) = default;
@@ -72,9 +118,14 @@ PvProductClassification& PvProductClassification::operator=(const PvProductClass
 PvProductClassification& PvProductClassification::operator=(PvProductClassification&& other) noexcept = default;
 PvProductClassification::~PvProductClassification() = default;
 
+PvProductClassificationGroup PvProductClassification::group() const
+{
+    return d->group;
+}
+
 QString PvProductClassification::sizeName(const PvDistanceUnit& unit) const
 {
-    return isInch(unit) ? m_inchName : m_cmName;
+    return isInch(unit) ? d->inchName : d->cmName;
 }
 
 QString PvProductClassification::visibleName(const PvDistanceUnit& unit) const
@@ -89,30 +140,22 @@ QString PvProductClassification::sizeNameWithUnit(const PvDistanceUnit& unit) co
 
 QSize PvProductClassification::dimensions(PvDistanceUnit unit) const
 {
-    return isInch(unit) ? QSize(m_inchWidth, m_inchHeight) : QSize(m_cmWidth, m_cmHeight);
+    return isInch(unit) ? QSize(d->inchWidth, d->inchHeight) : QSize(d->cmWidth, d->cmHeight);
 }
 
 qint64 PvProductClassification::areaSize() const
 {
-    return qint64(m_cmWidth) * m_cmHeight;
+    return qint64(d->cmWidth) * d->cmHeight;
 }
 
 double PvProductClassification::sizeDiagonal() const
 {
-    const double width = m_cmWidth;
-    const double height = m_cmHeight;
+    const double width = d->cmWidth;
+    const double height = d->cmHeight;
     return std::sqrt(width * width + height * height);
 }
 
 void PvProductClassification::calculateSize()
 {
-    const std::optional<QSize> cm = sizeFromName(m_cmName);
-    if (!cm)
-        return;
-    m_cmWidth = cm->width();
-    m_cmHeight = cm->height();
-    if (const std::optional<QSize> inch = sizeFromName(m_inchName)) {
-        m_inchWidth = inch->width();
-        m_inchHeight = inch->height();
-    }
+    d->calculateSize();
 }

@@ -6,9 +6,11 @@
 #include "pvproductproperties_export.h"
 
 #include <QDomElement>
+#include <QSharedDataPointer>
 #include <QSize>
 #include <QString>
 
+class PvProductClassificationData;
 class PvXMLChildren;
 
 /*!
@@ -35,7 +37,7 @@ public:
     //! Whether the product type is set.
     [[nodiscard]] bool isValid() const { return m_productType.isValid(); }
     //! The material group ("group").
-    [[nodiscard]] PvProductClassificationGroup group() const { return m_group; }
+    [[nodiscard]] PvProductClassificationGroup group() const;
     //! The product type classified.
     [[nodiscard]] PvProductType productType() const { return m_productType; }
 
@@ -59,12 +61,7 @@ public:
     void calculateSize();
 
 private:
-    PvProductClassificationGroup m_group;
-    QString m_cmName;
-    QString m_inchName;
+    // Only wall decor has a classification; every other product shares one empty copy.
+    QSharedDataPointer<PvProductClassificationData> d;
     PvProductType m_productType;
-    int m_cmWidth = 0;
-    int m_cmHeight = 0;
-    int m_inchWidth = -1;
-    int m_inchHeight = -1;
 };

@@ -9,11 +9,8 @@ thread_local PvValuePool* activePool = nullptr;
 PvValuePool::PvValuePool()
     : m_inUse(activePool == nullptr)
 {
-    if (!m_inUse)
-        return;
-    m_strings = std::make_unique<Table<QString, 1024>>();
-    m_lists = std::make_unique<Table<QStringList, 256>>();
-    activePool = this;
+    if (m_inUse)
+        activePool = this;
 }
 
 PvValuePool::~PvValuePool()
@@ -35,7 +32,7 @@ PvValuePool* PvValuePool::current()
 
 qsizetype PvValuePool::size() const
 {
-    qsizetype held = m_strings ? m_strings->size() + m_lists->size() : 0;
+    qsizetype held = 0;
     for (const auto& table : m_tables)
         held += table ? table->size() : 0;
     return held;
@@ -48,7 +45,7 @@ QString PvValuePool::shared(const QString& text)
     // them cost more time than their copies take memory.
     if (!pool || text.size() < 4)
         return text;
-    return pool->m_strings->find(qHash(text, 0), text, exact<QString>);
+    return pool->table<QString, 1024>().find(qHash(text, 0), text, exact<QString>);
 }
 
 QStringList PvValuePool::shared(const QStringList& list)
@@ -56,7 +53,7 @@ QStringList PvValuePool::shared(const QStringList& list)
     PvValuePool* pool = current();
     if (!pool || list.isEmpty())
         return list;
-    return pool->m_lists->find(qHash(list, 0), list, [](const QStringList& values) {
+    return pool->table<QStringList>().find(qHash(list, 0), list, [](const QStringList& values) {
         QStringList copy;
         copy.reserve(values.size());
         for (const QString& text : values)

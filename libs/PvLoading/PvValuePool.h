@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -79,8 +80,9 @@ private:
         [[nodiscard]] qsizetype size() const override;
     };
 
-    template <typename T>
-    Table<T, 256>& table();
+    // The table of type T, made when first asked for: texts need more rows than other types.
+    template <typename T, std::size_t Size = 256>
+    Table<T, Size>& table();
     // A small number for each type that asks, so that a pool finds its table by index.
     static int nextTypeId();
     template <typename T>
@@ -101,8 +103,6 @@ private:
     [[nodiscard]] static PvValuePool* current();
 
     // On the heap: a pool lives on the stack of whoever loads, and its tables take some 30 KB.
-    std::unique_ptr<Table<QString, 1024>> m_strings;
-    std::unique_ptr<Table<QStringList, 256>> m_lists;
     std::vector<std::unique_ptr<TableBase>> m_tables;
     bool m_inUse = false;
 };
@@ -116,20 +116,22 @@ qsizetype PvValuePool::Table<T, Size>::size() const
     return count;
 }
 
-template <typename T>
-PvValuePool::Table<T, 256>& PvValuePool::table()
+template <typename T, std::size_t Size>
+PvValuePool::Table<T, Size>& PvValuePool::table()
 {
     const auto id = std::size_t(typeId<T>());
     if (m_tables.size() <= id)
         m_tables.resize(id + 1);
     if (!m_tables[id])
-        m_tables[id] = std::make_unique<Table<T, 256>>();
-    return static_cast<Table<T, 256>&>(*m_tables[id]);
+        m_tables[id] = std::make_unique<Table<T, Size>>();
+    return static_cast<Table<T, Size>&>(*m_tables[id]);
 }
 
 template <typename T>
 T PvValuePool::shared(const T& value)
 {
+    // Their tables are of another size; the overloads above reach them.
+    static_assert(!std::is_same_v<T, QString> && !std::is_same_v<T, QStringList>, "texts and text lists have overloads of their own");
     PvValuePool* pool = current();
     if (!pool || value.isEmpty())
         return value;

@@ -16,11 +16,6 @@
 namespace {
 constexpr quint32 alignmentSpineMask = 0xF03E1;
 
-QDomElement child(const QDomElement& element, const QString& name)
-{
-    return PvXMLChildElements::first(element, name);
-}
-
 // The longest page list pageTypes() builds. The thickest products have a few hundred pages;
 // a list that many runs or year runs would make longer is a mistake in the file, and without
 // the bound it would cost (runs x page count) on every request.
@@ -151,11 +146,11 @@ void PvProductTypeDescription::initPages(const PvXMLChildren& product)
 void PvProductTypeDescription::initPageNumbering(const PvXMLChildren& product)
 {
     const QDomElement config = product.first(u"pageNumberConfig");
-    const QDomElement margin = child(config, QStringLiteral("margin"));
+    const QDomElement margin = PvXMLChildElements::first(config, QStringLiteral("margin"));
     const PvDistanceUnit unit(PvTenthMillimetre);
     m_pageNumberVerticalIndent = PvXMLParser::readDistance(margin, QStringLiteral("verticalMargin"), 50.0, unit);
     m_pageNumberHorizontalIndent = PvXMLParser::readDistance(margin, QStringLiteral("horizontalMargin"), 50.0, unit);
-    m_pageNumberFontSize = PvXMLParser::intAttribute(child(config, QStringLiteral("font")), QStringLiteral("fontSize"), 24);
+    m_pageNumberFontSize = PvXMLParser::intAttribute(PvXMLChildElements::first(config, QStringLiteral("font")), QStringLiteral("fontSize"), 24);
 }
 
 void PvProductTypeDescription::initReplacement(const QDomElement& product)
@@ -167,7 +162,7 @@ void PvProductTypeDescription::initReplacement(const QDomElement& product)
 
 void PvProductTypeDescription::initPricListCategories(const PvXMLChildren& product)
 {
-    const QDomElement category = child(product.first(u"pricelist"), QStringLiteral("category"));
+    const QDomElement category = PvXMLChildElements::first(product.first(u"pricelist"), QStringLiteral("category"));
     if (category.isNull())
         return;
     m_priceListCategory = category.text();

@@ -5,7 +5,7 @@
 #include "PvSurroundingKey.h"
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
-#include "PvXMLChildElements.h"
+#include "PvXMLChildren.h"
 
 #include <QDomAttr>
 #include <QDomDocument>
@@ -90,19 +90,10 @@ void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
 
 void PvSurroundingDescriptionImpl::readChildren(const QDomElement& element)
 {
-    // Most surroundings have no children; the others are read in one walk, the first "hole"
-    // and the first "spirals" counting.
-    QDomElement hole;
-    QDomElement spirals;
-    for (const QDomElement child : PvXMLChildElements(element)) {
-        if (!hole.isNull() && !spirals.isNull())
-            break;
-        const QString tag = child.tagName();
-        if (hole.isNull() && tag == QLatin1String("hole"))
-            hole = child;
-        else if (spirals.isNull() && tag == QLatin1String("spirals"))
-            spirals = child;
-    }
+    // Most surroundings have no children; the others are listed once for both names.
+    const PvXMLChildren children(element);
+    const QDomElement hole = children.first(u"hole");
+    const QDomElement spirals = children.first(u"spirals");
     calendarHoleConfig = PvCalendarHoleConfig(hole);
     if (!spirals.isNull())
         spiralConfig = std::allocate_shared<const PvSpiralConfig>(PvBlockPoolAllocator<PvSpiralConfig>(), spirals);

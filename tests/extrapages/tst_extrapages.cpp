@@ -1,17 +1,11 @@
 #include "PvProductionExtraPageGroupList.h"
+#include "PvTestXml.h"
 #include "PvXMLLoader.h"
 
 #include <QDomDocument>
 #include <QTest>
 
 namespace {
-QDomElement element(const QString& xml)
-{
-    QDomDocument document;
-    document.setContent(xml);
-    return document.documentElement();
-}
-
 const QString tooMany = QStringLiteral("Too many target pages, skipped: \"%1\"");
 }
 

@@ -3,6 +3,7 @@
 #include "PvJigEditorAbilities.h"
 #include "PvJigType.h"
 #include "PvProductEditorAbilities.h"
+#include "PvTestXml.h"
 
 #include <QDomDocument>
 #include <QRegularExpression>
@@ -11,13 +12,6 @@
 #include <algorithm>
 
 namespace {
-QDomElement element(const QString& xml)
-{
-    QDomDocument document;
-    document.setContent(xml);
-    return document.documentElement();
-}
-
 // Category names of a row, written "a|b".
 QStringList names(const char* text)
 {

@@ -1,4 +1,5 @@
 #include "PvBlockPool.h"
+#include "PvTestXml.h"
 #include "PvValuePool.h"
 #include "PvXMLAttribute.h"
 #include "PvXMLChildElements.h"
@@ -10,16 +11,6 @@
 
 #include <memory>
 #include <vector>
-
-namespace {
-QDomElement element(const QString& xml)
-{
-    QDomDocument document;
-    if (!document.setContent(xml))
-        qFatal("bad test XML");
-    return document.documentElement();
-}
-}
 
 class TestLoading : public QObject
 {

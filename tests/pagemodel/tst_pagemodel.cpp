@@ -6,6 +6,7 @@
 #include "PvPageTiltRedirectList.h"
 #include "PvPageTypeList.h"
 #include "PvProductType.h"
+#include "PvTestXml.h"
 #include "PvUserPageTiltConfig.h"
 
 #include <QDomDocument>
@@ -17,13 +18,6 @@ template class PvEmptyMeansAllSet<PvCoverType>;
 
 namespace {
 using Values = QList<quint32>;
-
-QDomElement element(const QString& xml)
-{
-    QDomDocument document;
-    document.setContent(xml);
-    return document.documentElement();
-}
 
 PvPageConstraint constraint(quint32 types, quint32 alignments)
 {

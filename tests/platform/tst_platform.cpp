@@ -1,6 +1,6 @@
 #include "PvArticleVariants.h"
-#include "PvCSSSkinManager.h"
 #include "PvCoverType.h"
+#include "PvCSSSkinManager.h"
 #include "PvDirectoryConfig.h"
 #include "PvDistance.h"
 #include "PvInitializer.h"
@@ -10,6 +10,7 @@
 #include "PvProductChecker.h"
 #include "PvProductCheckerRegistry.h"
 #include "PvSingleton.h"
+#include "PvTestXml.h"
 #include "PvXMLBasedRegistry.h"
 #include "PvXMLBuilder.h"
 #include "PvXMLLoader.h"
@@ -28,14 +29,6 @@
 #include <vector>
 
 namespace {
-QDomElement element(const QString& xml)
-{
-    QDomDocument document;
-    if (!document.setContent(xml))
-        qFatal("bad test XML");
-    return document.documentElement();
-}
-
 void writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);

@@ -1,26 +1,97 @@
 #include "PvBareDomParse.h"
 
 #include "PvPlatformIndependent.h"
+#include "PvXMLChildElements.h"
 
 #include <QDomDocument>
 #include <QFile>
+#include <QSet>
 
-int PvBareDomParse::parseDirectory(const QDir& dir)
+namespace {
+// Calls \a use with each file's document element; the same listing, opening and setContent()
+// overload as the reader's (PvXMLLoader), so that the ratio of load to parse compares like
+// with like. Answers the number of files that parsed.
+template <typename Use>
+int forEachDocument(const QDir& dir, Use use)
 {
     int parsed = 0;
-    // The same listing, opening and setContent() overload as the reader's (PvXMLLoader), so
-    // that the ratio of load to parse compares like with like.
     const QFileInfoList files = PvPlatformIndependent::instance().getDirectFilesInDirectoryAsFileInfos(dir, {});
-    for (const QFileInfo& fileInfo : files) {
-        QFile file(fileInfo.filePath());
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        QFile file(files.at(i).filePath());
         if (!file.open(QIODevice::ReadOnly))
             continue;
         QDomDocument document;
         QString error;
         int line = 0;
         int column = 0;
-        if (document.setContent(&file, &error, &line, &column) && !document.documentElement().isNull())
+        if (document.setContent(&file, &error, &line, &column) && !document.documentElement().isNull()) {
+            use(i, document.documentElement());
             ++parsed;
+        }
     }
     return parsed;
+}
+
+// Equal lists of names share one copy, as a reader's names are its own few literals: a copy
+// per element would cost the reading cache misses that no reader has.
+void collectNames(const QDomElement& element, QSet<QStringList>* known, QList<QStringList>* names)
+{
+    QStringList own;
+    const QDomNamedNodeMap attributes = element.attributes();
+    for (int i = 0; i < attributes.count(); ++i)
+        own.append(attributes.item(i).toAttr().name());
+    names->append(*known->insert(own));
+    for (const QDomElement child : PvXMLChildElements(element))
+        collectNames(child, known, names);
+}
+
+// Reads \a element and its descendants; \a next is the index of its names in \a names.
+// Answers a sum of the sizes read, so that no read can be left out.
+qsizetype readElement(const QDomElement& element, const QList<QStringList>& names, qsizetype* next)
+{
+    qsizetype read = element.tagName().size();
+    const qsizetype index = (*next)++;
+    if (index < names.size()) {
+        for (const QString& name : names.at(index))
+            read += element.attribute(name).size();
+    }
+    bool hasChildElements = false;
+    for (const QDomElement child : PvXMLChildElements(element)) {
+        hasChildElements = true;
+        read += readElement(child, names, next);
+    }
+    return hasChildElements ? read : read + element.text().size();
+}
+}
+
+int PvBareDomParse::parseDirectory(const QDir& dir)
+{
+    return forEachDocument(dir, [](qsizetype, const QDomElement&) {});
+}
+
+PvBareDomParse::AttributeNames PvBareDomParse::attributeNames(const QDir& dir)
+{
+    AttributeNames names;
+    QSet<QStringList> known;
+    (void)forEachDocument(dir, [&](qsizetype file, const QDomElement& root) {
+        names.resize(file + 1);
+        const QDomElement product = root.firstChildElement(QStringLiteral("product"));
+        if (!product.isNull())
+            collectNames(product, &known, &names[file]);
+    });
+    return names;
+}
+
+int PvBareDomParse::readDirectory(const QDir& dir, const AttributeNames& names)
+{
+    qsizetype read = 0;
+    const int parsed = forEachDocument(dir, [&](qsizetype file, const QDomElement& root) {
+        // As the reader finds it.
+        const QDomElement product = root.firstChildElement(QStringLiteral("product"));
+        qsizetype next = 0;
+        if (!product.isNull() && file < names.size())
+            read += readElement(product, names.at(file), &next);
+    });
+    // Nothing read means the names did not belong to these files.
+    return read > 0 ? parsed : 0;
 }

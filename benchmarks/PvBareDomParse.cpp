@@ -74,10 +74,10 @@ PvBareDomParse::AttributeNames PvBareDomParse::attributeNames(const QDir& dir)
     AttributeNames names;
     QSet<QStringList> known;
     (void)forEachDocument(dir, [&](qsizetype file, const QDomElement& root) {
-        names.resize(file + 1);
+        names.fileStarts.resize(file + 1, names.elements.size());
         const QDomElement product = root.firstChildElement(QStringLiteral("product"));
         if (!product.isNull())
-            collectNames(product, &known, &names[file]);
+            collectNames(product, &known, &names.elements);
     });
     return names;
 }
@@ -88,9 +88,9 @@ int PvBareDomParse::readDirectory(const QDir& dir, const AttributeNames& names)
     const int parsed = forEachDocument(dir, [&](qsizetype file, const QDomElement& root) {
         // As the reader finds it.
         const QDomElement product = root.firstChildElement(QStringLiteral("product"));
-        qsizetype next = 0;
-        if (!product.isNull() && file < names.size())
-            read += readElement(product, names.at(file), &next);
+        qsizetype next = names.fileStarts.value(file, names.elements.size());
+        if (!product.isNull())
+            read += readElement(product, names.elements, &next);
     });
     // Nothing read means the names did not belong to these files.
     return read > 0 ? parsed : 0;

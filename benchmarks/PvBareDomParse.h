@@ -20,8 +20,13 @@ public:
     [[nodiscard]] static int parseDirectory(const QDir& dir);
 
     //! For each file of a directory, in the order listed, the attribute names of each element
-    //! of its product, in document order.
-    using AttributeNames = QList<QList<QStringList>>;
+    //! of its product, in document order. One list for all files: a list per file, kept while
+    //! the files are parsed, would scatter the heap that every later parse works in.
+    struct AttributeNames
+    {
+        QList<QStringList> elements; //!< the names of each element, file after file
+        QList<qsizetype> fileStarts; //!< the index in elements of each file's first element
+    };
     //! What readDirectory() asks for in \a dir. Readers know the names they ask for, so this
     //! is not part of the floor: listing an element's attributes through the DOM costs more
     //! than looking each up.

@@ -17,11 +17,12 @@ PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item)
 }
 
 PvProductionExtraPageGroup::PvProductionExtraPageGroup(const QDomElement& item, int pageBudget)
-    : m_content(PvXMLChildElements::first(item, QStringLiteral("pdf")))
 {
+    const QDomElement pdf = PvXMLChildElements::first(item, QStringLiteral("pdf"));
+    m_content = PvProductionExtraPage(pdf);
     const QDomElement targetPages = PvXMLChildElements::first(item, QStringLiteral("target_pages"));
     readTargetPages(targetPages, pageBudget);
-    if (PvProductDiagnostics::listening() && PvXMLChildElements::first(item, QStringLiteral("pdf")).isNull() && !item.isNull())
+    if (PvProductDiagnostics::listening() && pdf.isNull() && !item.isNull())
         PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"pdf\" adds empty pages"));
     if (PvProductDiagnostics::listening() && targetPages.isNull() && !item.isNull())
         PvProductDiagnostics::report(PvDiagnostic::Error, item, QStringLiteral("an extra production page item without \"target_pages\" goes on no page"));

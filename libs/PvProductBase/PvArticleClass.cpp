@@ -1,10 +1,5 @@
 #include "PvArticleClass.h"
 
-PvArticleClass::PvArticleClass(PvArticleClassEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvArticleClass::PvArticleClass(const QString& text)
 {
     setFromText(text);

@@ -33,7 +33,10 @@ enum PvArticleClassEnum : quint64 {
 class PVPRODUCTBASE_EXPORT PvArticleClass : public PvEnumWrapper<PvArticleClassEnum>
 {
 public:
-    PvArticleClass(PvArticleClassEnum value = PvArticleClassEnum(0)) noexcept;
+    PvArticleClass(PvArticleClassEnum value = PvArticleClassEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvArticleClass(const QString& text);
 
 protected:

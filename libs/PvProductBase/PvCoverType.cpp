@@ -1,10 +1,5 @@
 #include "PvCoverType.h"
 
-PvCoverType::PvCoverType(PvCoverTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvCoverType::PvCoverType(const QString& text)
 {
     setFromText(text);

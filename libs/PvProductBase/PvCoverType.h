@@ -21,7 +21,10 @@ enum PvCoverTypeEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvCoverType : public PvEnumWrapper<PvCoverTypeEnum>
 {
 public:
-    PvCoverType(PvCoverTypeEnum value = PvCoverTypeEnum(0)) noexcept;
+    PvCoverType(PvCoverTypeEnum value = PvCoverTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvCoverType(const QString& text);
     //! Printed on single sheets: single sheet, folded or wall products.
     [[nodiscard]] bool isSimplex() const noexcept;

@@ -1,10 +1,5 @@
 #include "PvDlpType.h"
 
-PvDlpType::PvDlpType(PvDlpTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvDlpType::PvDlpType(const QString& text)
 {
     setFromText(text);

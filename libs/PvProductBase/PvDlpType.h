@@ -19,7 +19,10 @@ enum PvDlpTypeEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvDlpType : public PvEnumWrapper<PvDlpTypeEnum>
 {
 public:
-    PvDlpType(PvDlpTypeEnum value = PvDlpTypeEnum(0)) noexcept;
+    PvDlpType(PvDlpTypeEnum value = PvDlpTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvDlpType(const QString& text);
 
 protected:

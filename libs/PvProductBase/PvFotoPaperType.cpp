@@ -1,10 +1,5 @@
 #include "PvFotoPaperType.h"
 
-PvFotoPaperType::PvFotoPaperType(PvFotoPaperTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvFotoPaperType::PvFotoPaperType(const QString& text)
 {
     setFromText(text);

@@ -15,7 +15,10 @@ enum PvFotoPaperTypeEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvFotoPaperType : public PvEnumWrapper<PvFotoPaperTypeEnum>
 {
 public:
-    PvFotoPaperType(PvFotoPaperTypeEnum value = PvFotoPaperTypeEnum(0)) noexcept;
+    PvFotoPaperType(PvFotoPaperTypeEnum value = PvFotoPaperTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvFotoPaperType(const QString& text);
 
 protected:

@@ -1,10 +1,5 @@
 #include "PvOrientation.h"
 
-PvOrientation::PvOrientation(PvOrientationEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvOrientation::PvOrientation(const QString& text)
 {
     setFromText(text);

@@ -13,7 +13,10 @@ enum PvOrientationEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvOrientation : public PvEnumWrapper<PvOrientationEnum>
 {
 public:
-    PvOrientation(PvOrientationEnum value = PvOrientationEnum(0)) noexcept;
+    PvOrientation(PvOrientationEnum value = PvOrientationEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvOrientation(const QString& text);
     [[nodiscard]] bool isPortrait() const noexcept { return hasAnyOf(PvOrientationPortrait); }
     [[nodiscard]] bool isLandscape() const noexcept { return hasAnyOf(PvOrientationLandscape); }

@@ -1,10 +1,5 @@
 #include "PvPageAlignment.h"
 
-PvPageAlignment::PvPageAlignment(PvPageAlignmentEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvPageAlignment::PvPageAlignment(const QString& text)
 {
     setFromText(text);

@@ -17,7 +17,10 @@ enum PvPageAlignmentEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvPageAlignment : public PvEnumWrapper<PvPageAlignmentEnum>
 {
 public:
-    PvPageAlignment(PvPageAlignmentEnum value = PvPageAlignmentEnum(0)) noexcept;
+    PvPageAlignment(PvPageAlignmentEnum value = PvPageAlignmentEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvPageAlignment(const QString& text);
 
 protected:

@@ -1,10 +1,5 @@
 #include "PvPageBinding.h"
 
-PvPageBinding::PvPageBinding(PvPageBindingEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvPageBinding::PvPageBinding(const QString& text)
 {
     setFromText(text);

@@ -14,7 +14,10 @@ enum PvPageBindingEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvPageBinding : public PvEnumWrapper<PvPageBindingEnum>
 {
 public:
-    PvPageBinding(PvPageBindingEnum value = PvPageBindingEnum(0)) noexcept;
+    PvPageBinding(PvPageBindingEnum value = PvPageBindingEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvPageBinding(const QString& text);
     //! The German display name of a single value, translated; empty for 0 and for combinations.
     [[nodiscard]] QString humanReadableName() const;

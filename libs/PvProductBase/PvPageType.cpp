@@ -1,10 +1,5 @@
 #include "PvPageType.h"
 
-PvPageType::PvPageType(PvPageTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvPageType::PvPageType(const QString& text)
 {
     setFromText(text);

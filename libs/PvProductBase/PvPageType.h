@@ -39,7 +39,10 @@ enum PvPageTypeEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvPageType : public PvEnumWrapper<PvPageTypeEnum>
 {
 public:
-    PvPageType(PvPageTypeEnum value = PvPageTypeEnum(0)) noexcept;
+    PvPageType(PvPageTypeEnum value = PvPageTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvPageType(const QString& text);
 
 protected:

@@ -1,10 +1,5 @@
 #include "PvPaperType.h"
 
-PvPaperType::PvPaperType(PvPaperTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvPaperType::PvPaperType(const QString& text)
 {
     setFromText(text);

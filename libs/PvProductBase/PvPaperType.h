@@ -18,7 +18,10 @@ enum PvPaperTypeEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvPaperType : public PvEnumWrapper<PvPaperTypeEnum>
 {
 public:
-    PvPaperType(PvPaperTypeEnum value = PvPaperTypeEnum(0)) noexcept;
+    PvPaperType(PvPaperTypeEnum value = PvPaperTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvPaperType(const QString& text);
     //! The German display name of a single value, translated; empty for 0 and for combinations.
     [[nodiscard]] QString humanReadableName() const;

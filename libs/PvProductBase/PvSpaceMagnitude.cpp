@@ -1,10 +1,5 @@
 #include "PvSpaceMagnitude.h"
 
-PvSpaceMagnitude::PvSpaceMagnitude(PvSpaceMagnitudeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvSpaceMagnitude::PvSpaceMagnitude(const QString& text)
 {
     setFromText(text);

@@ -20,7 +20,10 @@ enum PvSpaceMagnitudeEnum : quint32 {
 class PVPRODUCTBASE_EXPORT PvSpaceMagnitude : public PvEnumWrapper<PvSpaceMagnitudeEnum>
 {
 public:
-    PvSpaceMagnitude(PvSpaceMagnitudeEnum value = PvSpaceMagnitudeEnum(0)) noexcept;
+    PvSpaceMagnitude(PvSpaceMagnitudeEnum value = PvSpaceMagnitudeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     explicit PvSpaceMagnitude(const QString& text);
 
 protected:

@@ -5,11 +5,6 @@
 
 #include <QCoreApplication>
 
-PvFotoBookShape::PvFotoBookShape(PvFotoBookShapeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvFotoBookShape::PvFotoBookShape(const QString& text)
 {
     setFromText(text);

@@ -28,7 +28,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvFotoBookShape : public PvEnumWrapper<PvFotoBo
 {
 public:
     //! The shape \a value.
-    PvFotoBookShape(PvFotoBookShapeEnum value = PvFotoBookShapeEnum(0)) noexcept;
+    PvFotoBookShape(PvFotoBookShapeEnum value = PvFotoBookShapeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The shapes named in the comma-separated \a text.
     explicit PvFotoBookShape(const QString& text);
 

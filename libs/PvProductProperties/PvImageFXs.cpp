@@ -1,10 +1,5 @@
 #include "PvImageFXs.h"
 
-PvImageFXs::PvImageFXs(PvImageFXsEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvImageFXs::PvImageFXs(const QString& text)
 {
     setFromText(text);

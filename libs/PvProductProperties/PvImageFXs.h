@@ -14,7 +14,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvImageFXs : public PvEnumWrapper<PvImageFXsEnu
 {
 public:
     //! The effects \a value.
-    PvImageFXs(PvImageFXsEnum value = PvImageFXsEnum(0)) noexcept;
+    PvImageFXs(PvImageFXsEnum value = PvImageFXsEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The effects named in the comma-separated \a text.
     explicit PvImageFXs(const QString& text);
 

@@ -2,11 +2,6 @@
 
 #include "PvJigTypeList.h"
 
-PvJigType::PvJigType(PvJigTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvJigType::PvJigType(const QString& text)
 {
     setFromText(text);

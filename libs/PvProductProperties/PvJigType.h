@@ -27,7 +27,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvJigType : public PvEnumWrapper<PvJigTypeEnum>
 {
 public:
     //! The kinds \a value.
-    PvJigType(PvJigTypeEnum value = PvJigTypeEnum(0)) noexcept;
+    PvJigType(PvJigTypeEnum value = PvJigTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The kinds named in the comma-separated \a text.
     explicit PvJigType(const QString& text);
 

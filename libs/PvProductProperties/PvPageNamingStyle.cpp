@@ -2,11 +2,6 @@
 
 #include "PvXMLParser.h"
 
-PvPageNamingStyle::PvPageNamingStyle(PvPageNamingStyleEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvPageNamingStyle::PvPageNamingStyle(const QString& text)
 {
     setFromText(text);

@@ -44,7 +44,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvPageNamingStyle : public PvEnumWrapper<PvPage
 {
 public:
     //! The style \a value.
-    PvPageNamingStyle(PvPageNamingStyleEnum value = PvPageNamingStyleEnum(0)) noexcept;
+    PvPageNamingStyle(PvPageNamingStyleEnum value = PvPageNamingStyleEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The styles named in the comma-separated \a text.
     explicit PvPageNamingStyle(const QString& text);
 

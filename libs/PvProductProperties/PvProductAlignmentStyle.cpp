@@ -1,10 +1,5 @@
 #include "PvProductAlignmentStyle.h"
 
-PvProductAlignmentStyle::PvProductAlignmentStyle(PvProductAlignmentStyleEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvProductAlignmentStyle::PvProductAlignmentStyle(const QString& text)
 {
     setFromText(text);

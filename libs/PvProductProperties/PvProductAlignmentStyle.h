@@ -16,7 +16,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvProductAlignmentStyle : public PvEnumWrapper<
 {
 public:
     //! The style \a value.
-    PvProductAlignmentStyle(PvProductAlignmentStyleEnum value = PvProductAlignmentStyleEnum(0)) noexcept;
+    PvProductAlignmentStyle(PvProductAlignmentStyleEnum value = PvProductAlignmentStyleEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The styles named in the comma-separated \a text.
     explicit PvProductAlignmentStyle(const QString& text);
 

@@ -1,10 +1,5 @@
 #include "PvSurroundingType.h"
 
-PvSurroundingType::PvSurroundingType(PvSurroundingTypeEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvSurroundingType::PvSurroundingType(const QString& text)
 {
     setFromText(text);

@@ -29,7 +29,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvSurroundingType : public PvEnumWrapper<PvSurr
 {
 public:
     //! The type \a value.
-    PvSurroundingType(PvSurroundingTypeEnum value = PvSurroundingTypeEnum(0)) noexcept;
+    PvSurroundingType(PvSurroundingTypeEnum value = PvSurroundingTypeEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The types named in the comma-separated \a text.
     explicit PvSurroundingType(const QString& text);
 

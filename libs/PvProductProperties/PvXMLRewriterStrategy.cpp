@@ -1,10 +1,5 @@
 #include "PvXMLRewriterStrategy.h"
 
-PvXMLRewriterStrategy::PvXMLRewriterStrategy(PvXMLRewriterStrategyEnum value) noexcept
-    : PvEnumWrapper(value)
-{
-}
-
 PvXMLRewriterStrategy::PvXMLRewriterStrategy(const QString& text)
 {
     setFromText(text);

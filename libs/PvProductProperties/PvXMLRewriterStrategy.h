@@ -18,7 +18,10 @@ class PVPRODUCTPROPERTIES_EXPORT PvXMLRewriterStrategy : public PvEnumWrapper<Pv
 {
 public:
     //! The strategy \a value.
-    PvXMLRewriterStrategy(PvXMLRewriterStrategyEnum value = PvXMLRewriterStrategyEnum(0)) noexcept;
+    PvXMLRewriterStrategy(PvXMLRewriterStrategyEnum value = PvXMLRewriterStrategyEnum(0)) noexcept
+        : PvEnumWrapper(value)
+    {
+    }
     //! The strategies named in the comma-separated \a text.
     explicit PvXMLRewriterStrategy(const QString& text);
 

@@ -2,30 +2,24 @@
 
 #include "PvPlatformIndependent.h"
 #include "PvXMLChildElements.h"
+#include "PvXMLLoader.h"
 
 #include <QDomDocument>
-#include <QFile>
 #include <QSet>
 
 namespace {
-// Calls \a use with each file's document element; the same listing, opening and setContent()
-// overload as the reader's (PvXMLLoader), so that the ratio of load to parse compares like
-// with like. Answers the number of files that parsed.
+// Calls \a use with each file's document element, listed, opened and parsed by the reader's
+// own loader (PvXMLLoader), so that the ratio of load to parse compares like with like.
+// Answers the number of files that parsed.
 template <typename Use>
 int forEachDocument(const QDir& dir, Use use)
 {
     int parsed = 0;
     const QFileInfoList files = PvPlatformIndependent::instance().getDirectFilesInDirectoryAsFileInfos(dir, {});
     for (qsizetype i = 0; i < files.size(); ++i) {
-        QFile file(files.at(i).filePath());
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        QDomDocument document;
-        QString error;
-        int line = 0;
-        int column = 0;
-        if (document.setContent(&file, &error, &line, &column) && !document.documentElement().isNull()) {
-            use(i, document.documentElement());
+        const QDomElement root = PvXMLLoader::loadDocumentElement(files.at(i));
+        if (!root.isNull()) {
+            use(i, root);
             ++parsed;
         }
     }

@@ -227,22 +227,29 @@ void TestPlatform::loader_data()
 {
     QTest::addColumn<QByteArray>("content");
     QTest::addColumn<QString>("rootTag");
-    QTest::newRow("well-formed") << QByteArray("<?xml version='1.0'?><products><product/></products>") << "products";
-    QTest::newRow("empty") << QByteArray() << QString();
-    QTest::newRow("not well-formed") << QByteArray("<products><product></products>") << QString();
-    QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0", 11) << QString();
+    QTest::addColumn<int>("children");
+    QTest::newRow("well-formed") << QByteArray("<?xml version='1.0'?><products><product/></products>") << "products" << 1;
+    QTest::newRow("empty") << QByteArray() << QString() << 0;
+    QTest::newRow("not well-formed") << QByteArray("<products><product></products>") << QString() << 0;
+    QTest::newRow("binary") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0", 11) << QString() << 0;
+    // Larger files are read into the heap rather than onto the stack; every byte must arrive.
+    QTest::newRow("large") << "<products>" + QByteArray("<product name='x'/>").repeated(5000) + "</products>" << "products" << 5000;
+    const QString utf16 = QStringLiteral("<?xml version='1.0' encoding='UTF-16'?><products><product/><product/></products>");
+    QTest::newRow("UTF-16") << QByteArray("\xff\xfe", 2) + QByteArray(reinterpret_cast<const char*>(utf16.utf16()), utf16.size() * 2) << "products" << 2;
 }
 
 void TestPlatform::loader()
 {
     QFETCH(QByteArray, content);
     QFETCH(QString, rootTag);
+    QFETCH(int, children);
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("file.xml"));
     writeFile(path, content);
     const QDomElement root = PvXMLLoader::loadDocumentElement(QFileInfo(path));
     QCOMPARE(root.isNull(), rootTag.isEmpty());
     QCOMPARE(root.tagName(), rootTag);
+    QCOMPARE(root.childNodes().count(), children);
     QVERIFY(PvXMLLoader::loadDocumentElement(dir.filePath(QStringLiteral("missing.xml"))).isNull());
 }
 

@@ -3,11 +3,17 @@
 #include "PvValuePool.h"
 #include "PvXMLParser.h"
 #include "PvXMLChildElements.h"
+#include "PvXMLChildren.h"
 
 PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const QDomElement& product)
+    : PvConfiguredArticleVariantList(PvXMLChildren(product))
+{
+}
+
+PvConfiguredArticleVariantList::PvConfiguredArticleVariantList(const PvXMLChildren& product)
 {
     const QString variantTag = QStringLiteral("variant");
-    for (const QDomElement list : PvXMLChildElements(product, QStringLiteral("variants"))) {
+    for (const QDomElement& list : product.all(u"variants")) {
         for (const QDomElement v : PvXMLChildElements(list, variantTag)) {
             m_variants.append({ PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("id"), QString(), true)),
                                 PvValuePool::shared(PvXMLParser::attribute(v, QStringLiteral("name"))),

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+class PvXMLChildren;
+
 /*! The article variants a product offers, from its "variants" element. */
 class PVPRODUCTBASE_EXPORT PvConfiguredArticleVariantList
 {
@@ -28,6 +30,8 @@ public:
     PvConfiguredArticleVariantList() = default;
     //! One entry per "variants"/"variant" element below \a product.
     explicit PvConfiguredArticleVariantList(const QDomElement& product);
+    //! The same from the children of "product", listed already by whoever reads the rest of it.
+    explicit PvConfiguredArticleVariantList(const PvXMLChildren& product);
 
     [[nodiscard]] QList<Variant> variants() const { return m_variants; }
     [[nodiscard]] bool isEmpty() const { return m_variants.isEmpty(); }

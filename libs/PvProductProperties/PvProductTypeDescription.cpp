@@ -64,7 +64,7 @@ PvProductTypeDescription::PvProductTypeDescription(const QDomElement& product)
     PvProductDiagnostics::checkEnum<PvCoverType>(product, QStringLiteral("binding"), "cover type");
     initLayout(elements);
     initRedirectsAndDefaults(elements);
-    m_variants = PvConfiguredArticleVariantList(product);
+    m_variants = PvConfiguredArticleVariantList(elements);
     initPages(elements);
     initPageNumbering(elements);
     m_extraProductionContents = PvProductionExtraPageGroupList(elements.first(u"extra_production_pages"));

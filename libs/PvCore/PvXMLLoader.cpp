@@ -12,6 +12,12 @@ namespace {
 // file costs no more memory than its document.
 constexpr qint64 maximumReadAtOnce = 16 * 1024 * 1024;
 
+void reportUnreadable(const QFile& file)
+{
+    if (PvDiagnostics::isListening(pvXmlLog()))
+        PvDiagnostics::reportFile(pvXmlLog(), PvDiagnostic::Error, QStringLiteral("cannot be read: ") + file.errorString());
+}
+
 void reportFailure(const QByteArray& data, int line, int column, const QString& error)
 {
     PvDiagnostic diagnostic = PvDiagnostics::xmlError(data, line, column, error);
@@ -29,23 +35,21 @@ QDomElement PvXMLLoader::loadDocumentElement(const QString& filePath)
 {
     QFile file(filePath);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        if (PvDiagnostics::isListening(pvXmlLog()))
-            PvDiagnostics::reportFile(pvXmlLog(), PvDiagnostic::Error, QStringLiteral("cannot be read: ") + file.errorString());
+        reportUnreadable(file);
         return {};
     }
     QDomDocument document;
     QString error;
     int line = 0;
     int column = 0;
-    // Product files are a few kilobytes: most fit the stack. A file that reports no size may
-    // still have content, so it is streamed too. The file is read as long as it was when opened.
+    // Product files are a few kilobytes: most fit the stack. A file is read at the size it had
+    // when opened; one that reports no size may still have content, so it is streamed.
     const qint64 size = file.size();
     if (size > 0 && size <= maximumReadAtOnce) {
         QVarLengthArray<char, 16 * 1024> bytes(size);
         const qint64 read = file.read(bytes.data(), size);
         if (read < 0) {
-            if (PvDiagnostics::isListening(pvXmlLog()))
-                PvDiagnostics::reportFile(pvXmlLog(), PvDiagnostic::Error, QStringLiteral("cannot be read: ") + file.errorString());
+            reportUnreadable(file);
             return {};
         }
         const QByteArray data = QByteArray::fromRawData(bytes.constData(), read);

@@ -56,7 +56,7 @@ QDomElement PvXMLLoader::loadDocumentElement(const QString& filePath)
         if (!document.setContent(data, &error, &line, &column)) {
             // Where and why are worked out only when someone listens.
             if (PvDiagnostics::isListening(pvXmlLog()))
-                reportFailure(QByteArray(data.constData(), data.size()), line, column, error);
+                reportFailure(data, line, column, error);
             return {};
         }
     } else if (!document.setContent(&file, &error, &line, &column)) {

@@ -105,11 +105,12 @@ PvProductClassification::PvProductClassification(const QDomElement& product)
 
 // Trimmed like the description's own product type, so that both name the same product.
 PvProductClassification::PvProductClassification(const PvXMLChildren& product)
-    : d(PvProductClassificationData::read(product.first(u"classification")))
-    , m_productType(PvXMLParser::attribute(product.parent(), QStringLiteral("name"), QString(), true))
+    : m_productType(PvXMLParser::attribute(product.parent(), QStringLiteral("name"), QString(), true))
 {
+    const QDomElement classification = product.first(u"classification");
+    d = PvProductClassificationData::read(classification);
     if (PvProductDiagnostics::listening())
-        reportMistakes(product.first(u"classification"));
+        reportMistakes(classification);
 }
 
 PvProductClassification::PvProductClassification(const PvProductClassification& other) = default;

@@ -7,6 +7,8 @@
 #include "PvThematicCategorySet.h"
 #include "PvThematicCategoryTranslationRegistry.h"
 
+#include <QTemporaryDir>
+
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -101,6 +103,15 @@ void categoryTranslation(benchmark::State& state)
     for (auto _ : state)
         benchmark::DoNotOptimize(translations.translation(name, locale));
 }
+
+// What every products directory costs before its first file: the application reads an
+// updates directory that is often empty.
+void loadEmptyDirectory(benchmark::State& state)
+{
+    const QTemporaryDir empty;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(PvGeneratedCatalogueRegistry(QDir(empty.path())).allProducts());
+}
 }
 
 // Short runs, repeated: the median of five resists a neighbour's burst on the machine.
@@ -116,3 +127,4 @@ PV_QUERY(findProducts, "findProducts, photobook hardcover");
 PV_QUERY(categorySet, "category set from twelve names");
 PV_QUERY(preferredCategory, "preferredCategory");
 PV_QUERY(categoryTranslation, "translation of a category name");
+PV_QUERY(loadEmptyDirectory, "load of an empty products directory");

@@ -84,9 +84,9 @@ void PvProductLinter::lintPaths(const QStringList& paths)
         const QuietLibrary quiet;
         const PvDiagnosticCollector ignored;
         for (const char* name : { "products-updates", "products" }) {
-            const auto descriptions = PvProductTypeDescriptionReader(QDir(m_dataRoot.filePath(QLatin1String(name)))).readDir();
-            for (auto it = descriptions.cbegin(); it != descriptions.cend(); ++it)
-                m_knownProducts.insert(it.key().name());
+            const auto descriptions = PvProductTypeDescriptionReader(QDir(m_dataRoot.filePath(QLatin1String(name)))).readDescriptions();
+            for (const PvProductTypeDescription* description : descriptions)
+                m_knownProducts.insert(description->productType().name());
             qDeleteAll(descriptions);
         }
     }
@@ -128,10 +128,10 @@ void PvProductLinter::lintProductDirectory(const QDir& dir, Kind kind)
     PvDiagnosticCollector collector;
     {
         const QuietLibrary quiet;
-        const auto descriptions = PvProductTypeDescriptionReader(dir).readDir();
-        for (auto it = descriptions.cbegin(); it != descriptions.cend(); ++it) {
+        const auto descriptions = PvProductTypeDescriptionReader(dir).readDescriptions();
+        for (const PvProductTypeDescription* description : descriptions) {
             if (kind == Kind::Products)
-                m_knownProducts.insert(it.key().name());
+                m_knownProducts.insert(description->productType().name());
         }
         qDeleteAll(descriptions);
     }

@@ -29,13 +29,14 @@ void PvProductTypeConfigRegistryAbstract::load()
 {
     const QList<QDir> dirs = supervisedDirs();
     for (const QDir& dir : dirs) {
-        const QHash<PvProductType, PvProductTypeDescription*> found = PvProductTypeDescriptionReader(dir).readDir();
+        const QList<PvProductTypeDescription*> found = PvProductTypeDescriptionReader(dir).readDescriptions();
+        m_descriptions.reserve(m_descriptions.size() + found.size());
         QList<PvProductTypeDescription*> discarded;
-        for (auto it = found.cbegin(); it != found.cend(); ++it) {
-            if (m_descriptions.contains(it.key()))
-                discarded.append(it.value());
+        for (PvProductTypeDescription* description : found) {
+            if (m_descriptions.contains(description->productType()))
+                discarded.append(description);
             else
-                m_descriptions.insert(it.key(), it.value());
+                m_descriptions.insert(description->productType(), description);
         }
         qDeleteAll(discarded);
     }

@@ -9,6 +9,8 @@
 
 #include <QDebug>
 
+#include <utility>
+
 PvProductTypeDescriptionReader::PvProductTypeDescriptionReader(const QDir& dir)
     : m_dir(dir)
 {
@@ -18,24 +20,40 @@ PvProductTypeDescriptionReader::~PvProductTypeDescriptionReader() = default;
 
 QHash<PvProductType, PvProductTypeDescription*> PvProductTypeDescriptionReader::readDir() const
 {
-    // Descriptions of one directory repeat each other's paths and names; they keep one copy.
-    const PvValuePool pool;
     QHash<PvProductType, PvProductTypeDescription*> result;
     // Generous on purpose: the hash never grows while a directory is read.
     result.reserve(100000);
+    for (PvProductTypeDescription* description : readDescriptions())
+        result.insert(description->productType(), description);
+    return result;
+}
+
+QList<PvProductTypeDescription*> PvProductTypeDescriptionReader::readDescriptions() const
+{
+    // Descriptions of one directory repeat each other's paths and names; they keep one copy.
+    const PvValuePool pool;
     // No name filter: product files are recognised by their content, not their names.
     const QFileInfoList files = PvPlatformIndependent::instance().getDirectFilesInDirectoryAsFileInfos(m_dir, {});
+    QList<PvProductTypeDescription*> descriptions;
+    QHash<PvProductType, qsizetype> positions;
+    // A file declares at most one product type, so neither grows while the directory is read.
+    descriptions.reserve(files.size());
+    positions.reserve(files.size());
     for (const QFileInfo& file : files) {
         PvProductTypeDescription* description = readFile(file);
         if (!description)
             continue;
-        PvProductTypeDescription*& entry = result[description->productType()];
-        if (entry && PvDiagnostics::isListening(pvProductsLog()))
+        const auto known = positions.constFind(description->productType());
+        if (known == positions.cend()) {
+            positions.insert(description->productType(), descriptions.size());
+            descriptions.append(description);
+            continue;
+        }
+        if (PvDiagnostics::isListening(pvProductsLog()))
             reportReplaced(file, *description);
-        delete entry;
-        entry = description;
+        delete std::exchange(descriptions[*known], description);
     }
-    return result;
+    return descriptions;
 }
 
 PvProductTypeDescription* PvProductTypeDescriptionReader::readFile(const QFileInfo& fileInfo) const

@@ -7,6 +7,7 @@
 #include <QDomElement>
 #include <QFileInfo>
 #include <QHash>
+#include <QList>
 #include <QStringList>
 
 class PvProductTypeDescription;
@@ -28,6 +29,12 @@ public:
      * product type, the one later in file-name order wins.
      */
     [[nodiscard]] QHash<PvProductType, PvProductTypeDescription*> readDir() const;
+    /*!
+     * The descriptions readDir() answers, listed in the order of the files that first
+     * declared their product types. A caller that walks them all takes this: readDir()'s hash
+     * has room for 100000 entries, and walking it costs as much as walking that many.
+     */
+    [[nodiscard]] QList<PvProductTypeDescription*> readDescriptions() const;
     /*!
      * A new description from the first "product" element of the file, owned by the caller;
      * null with a warning when the file does not load as XML. A file without a "product"

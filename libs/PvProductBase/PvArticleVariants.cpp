@@ -12,8 +12,11 @@ PvArticleVariants::PvArticleVariants(const QString& text)
         if (!id.isEmpty())
             m_ids.append(id.toString());
     }
-    m_ids.sort();
-    m_ids.removeDuplicates();
+    // Most texts name no variant or one, with nothing to sort.
+    if (m_ids.size() > 1) {
+        m_ids.sort();
+        m_ids.removeDuplicates();
+    }
     m_ids = PvValuePool::shared(m_ids);
 }
 

@@ -36,17 +36,15 @@ PvProductionExtraPageGroup::~PvProductionExtraPageGroup() = default;
 
 void PvProductionExtraPageGroup::readTargetPages(const QDomElement& targetPages, int pageBudget)
 {
-    const QString text = targetPages.text();
+    const QString text = targetPages.text().simplified();
     bool warned = false;
-    const QStringList parts = text.simplified().split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString& part : parts) {
+    for (const QStringView part : QStringView(text).tokenize(u',', Qt::SkipEmptyParts)) {
         qint64 first = 0;
         qint64 last = 0;
-        if (part.contains(QLatin1Char('-'))) {
+        if (part.contains(u'-')) {
             // "-4" is a range from 0: a piece that is not a number counts as 0.
-            const QStringList pieces = part.split(QLatin1Char('-'));
-            first = pieces.constFirst().toInt(nullptr, 10);
-            last = pieces.constLast().toInt(nullptr, 10);
+            first = part.first(part.indexOf(u'-')).toInt(nullptr, 10);
+            last = part.sliced(part.lastIndexOf(u'-') + 1).toInt(nullptr, 10);
             if (first > last)
                 std::swap(first, last);
         } else {
@@ -55,7 +53,7 @@ void PvProductionExtraPageGroup::readTargetPages(const QDomElement& targetPages,
             if (!ok) {
                 if (PvDiagnostics::isListening(pvProductsLog()))
                     PvProductDiagnostics::report(PvDiagnostic::Error, targetPages, QStringLiteral("the text of \"target_pages\": %1 is not a page or a range a-b and is skipped")
-                                                                 .arg(PvDiagnostics::quoted(part.trimmed())));
+                                                                 .arg(PvDiagnostics::quoted(part.trimmed().toString())));
                 continue;
             }
         }
@@ -64,13 +62,14 @@ void PvProductionExtraPageGroup::readTargetPages(const QDomElement& targetPages,
         const qint64 count = last - first + 1;
         if (count > pageBudget - m_targetPages.size()) {
             if (!warned)
-                qWarning("Too many target pages, skipped: \"%s\"", qUtf8Printable(part.trimmed()));
+                qWarning("Too many target pages, skipped: \"%s\"", qUtf8Printable(part.trimmed().toString()));
             if (PvDiagnostics::isListening(pvProductsLog()))
                 PvProductDiagnostics::report(PvDiagnostic::Error, targetPages, QStringLiteral("the text of \"target_pages\": %1 is more pages than %2; it is skipped")
-                                                             .arg(PvDiagnostics::quoted(part.trimmed())).arg(pageBudget));
+                                                             .arg(PvDiagnostics::quoted(part.trimmed().toString())).arg(pageBudget));
             warned = true;
             continue;
         }
+        m_targetPages.reserve(m_targetPages.size() + count);
         for (qint64 page = first; page <= last; ++page)
             m_targetPages.append(int(page));
     }

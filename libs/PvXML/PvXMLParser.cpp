@@ -22,21 +22,33 @@ void reportDefault(const QDomElement& element, const QString& name, const QStrin
                               name);
 }
 
-// Coordinates are whole numbers almost always; those are read here, exactly as toDouble()
-// would read them, and everything else by toDouble().
-std::optional<double> plainInteger(QStringView text)
+// Numbers in product files are short and plain: "42", "-3", "3.5". Those are read here, to
+// the same double as toDouble() would give, and everything else by toDouble() or toInt().
+// Exact because both the digits (below 10^15) and the power of ten are doubles without
+// rounding, so their quotient is the correctly rounded value, as toDouble()'s is.
+std::optional<double> plainNumber(QStringView text, bool allowFraction)
 {
+    static constexpr double powersOfTen[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15 };
     const bool negative = text.startsWith(u'-');
     const QStringView digits = negative || text.startsWith(u'+') ? text.mid(1) : text;
-    if (digits.isEmpty() || digits.size() > 15)
-        return std::nullopt;
     qint64 value = 0;
+    int count = 0;
+    int decimals = -1;
     for (const QChar c : digits) {
-        if (c < u'0' || c > u'9')
+        if (c == u'.' && allowFraction && decimals < 0 && count > 0) {
+            decimals = 0;
+            continue;
+        }
+        if (c < u'0' || c > u'9' || ++count > 15)
             return std::nullopt;
         value = value * 10 + (c.unicode() - u'0');
+        if (decimals >= 0)
+            ++decimals;
     }
-    return negative ? -double(value) : double(value);
+    if (count == 0 || decimals == 0)
+        return std::nullopt;
+    const double magnitude = decimals > 0 ? double(value) / powersOfTen[decimals] : double(value);
+    return negative ? -magnitude : magnitude;
 }
 
 // Whether \a text lower-cased is \a word, a lower-case ASCII word, without a copy. Beyond
@@ -59,8 +71,8 @@ std::optional<double> doubleOf(const QDomElement& element, const QString& name)
     if (!text)
         return std::nullopt;
     const QStringView trimmed = QStringView(*text).trimmed();
-    if (const std::optional<double> whole = plainInteger(trimmed))
-        return whole;
+    if (const std::optional<double> plain = plainNumber(trimmed, true))
+        return plain;
     bool ok = false;
     const double value = trimmed.toDouble(&ok);
     if (!ok)
@@ -193,9 +205,17 @@ int PvXMLParser::intText(const QDomElement& element, const QString& childName, i
 
 QList<int> PvXMLParser::intList(const QString& text)
 {
+    // Most lists hold no blank at all, and for them simplified() would be a copy of the same.
+    const bool blanks = std::any_of(text.cbegin(), text.cend(), [](QChar c) { return c.isSpace(); });
+    const QString simple = blanks ? text.simplified() : text;
     QList<int> numbers;
-    const QString simple = text.simplified();
     for (const QStringView part : QStringView(simple).tokenize(u',', Qt::SkipEmptyParts)) {
+        // Plain numbers, nearly all of them, are read without toInt()'s locale machinery.
+        const std::optional<double> plain = plainNumber(part, false);
+        if (plain && *plain >= INT_MIN && *plain <= INT_MAX) {
+            numbers.append(int(*plain));
+            continue;
+        }
         bool ok = false;
         const int number = part.toInt(&ok, 10);
         if (ok)

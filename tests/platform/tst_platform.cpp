@@ -21,6 +21,7 @@
 #include <QSemaphore>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QtEndian>
 #include <QThread>
 
 #include <atomic>
@@ -106,6 +107,8 @@ private Q_SLOTS:
     void boolAttribute();
     void intAttribute_data();
     void intAttribute();
+    void numbers_data();
+    void numbers();
     void otherReaders();
     void rectReaders_data();
     void rectReaders();
@@ -168,6 +171,44 @@ void TestPlatform::intAttribute()
     QFETCH(QString, xml);
     QFETCH(int, expected);
     QCOMPARE(PvXMLParser::intAttribute(element(xml), QStringLiteral("a"), -7), expected);
+}
+
+void TestPlatform::numbers_data()
+{
+    QTest::addColumn<QString>("text");
+    // Short plain numbers take a path of their own; they must read as Qt reads them.
+    for (const char* text : { "3.5", "-0.25", "0.1", "0.3", "1.7", "+4.75", " 2.5 ", "123456.789", "99999999999999.9", "0.000000000000001",
+                              "-0.0", "-0", "0007" })
+        QTest::newRow(text) << QString::fromLatin1(text);
+    for (const char* text : { "1.", ".5", "-.5", "1e3", "1234567890123456.5", "0.30000000000000004", "1.2.3", "1,5", "--1", "+", "" })
+        QTest::newRow(text) << QString::fromLatin1(text);
+    QTest::newRow("list") << "1,2,3";
+    QTest::newRow("list with blanks") << " 1, 2 ,\t3 ";
+    QTest::newRow("list with holes and junk") << "1,,x,1.5,4";
+    QTest::newRow("list beyond int") << "2147483648,-2147483648,2147483647";
+    QTest::newRow("blank inside a number") << "1 2,3";
+}
+
+void TestPlatform::numbers()
+{
+    QFETCH(QString, text);
+    QDomDocument document;
+    QDomElement e = document.createElement(QStringLiteral("e"));
+    e.setAttribute(QStringLiteral("a"), text);
+    bool ok = false;
+    const double qtValue = text.trimmed().toDouble(&ok);
+    const double expected = ok ? qtValue : -1.5;
+    // Bit for bit: QCOMPARE on doubles forgives the last digits, and the sign of zero.
+    const auto bits = [](double value) { return qFromUnaligned<quint64>(&value); };
+    QCOMPARE(bits(PvXMLParser::doubleAttribute(e, QStringLiteral("a"), -1.5)), bits(expected));
+
+    QList<int> expectedList;
+    for (const QString& part : text.simplified().split(u',', Qt::SkipEmptyParts)) {
+        const int number = part.toInt(&ok, 10);
+        if (ok)
+            expectedList.append(number);
+    }
+    QCOMPARE(PvXMLParser::intList(text), expectedList);
 }
 
 void TestPlatform::otherReaders()

@@ -82,19 +82,19 @@ public:
     //! The value of \a text, ignoring case and surrounding blanks; none for an unknown text.
     [[nodiscard]] std::optional<T> decode(QStringView text) const
     {
-        text = text.trimmed();
+        if (!text.isEmpty() && (text.front().isSpace() || text.back().isSpace()))
+            text = text.trimmed();
         // Product files hold thousands of these names: lower-case short ASCII names on the
         // stack, and copy only what needs Unicode case folding.
         constexpr qsizetype shortName = 64;
-        QVarLengthArray<char16_t, shortName> folded;
+        char16_t folded[shortName];
         bool ascii = text.size() <= shortName;
         for (qsizetype i = 0; ascii && i < text.size(); ++i) {
-            const char16_t c = text.at(i).unicode();
+            const char16_t c = text[i].unicode();
             ascii = c < 0x80;
-            folded.append(c >= u'A' && c <= u'Z' ? char16_t(c + (u'a' - u'A')) : c);
+            folded[i] = c >= u'A' && c <= u'Z' ? char16_t(c + (u'a' - u'A')) : c;
         }
-        const QString key = ascii ? QString::fromRawData(reinterpret_cast<const QChar*>(folded.constData()), folded.size())
-                                  : text.toString().toLower();
+        const QString key = ascii ? QString::fromRawData(reinterpret_cast<const QChar*>(folded), text.size()) : text.toString().toLower();
         const auto it = stringToEnum.constFind(key);
         if (it == stringToEnum.cend())
             return std::nullopt;
@@ -106,8 +106,13 @@ public:
     [[nodiscard]] T decodeCSV(QStringView text) const
     {
         Underlying result = 0;
-        for (const QStringView piece : text.tokenize(u','))
-            result |= static_cast<Underlying>(decode(piece).value_or(unknownValue));
+        qsizetype start = 0;
+        for (qsizetype end = 0; end <= text.size(); ++end) {
+            if (end < text.size() && text[end] != u',')
+                continue;
+            result |= static_cast<Underlying>(decode(text.sliced(start, end - start)).value_or(unknownValue));
+            start = end + 1;
+        }
         return static_cast<T>(result);
     }
 

@@ -113,21 +113,21 @@ bool PvDefaultTemplateMap::store(const PvDefaultTemplateKey& key, const QString&
 
 bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
 {
+    // A default has a few of these; once all it has are found the others are known to be missing.
+    PvXMLAttributes attributes(entry);
     Rule rule;
-    for (const PvPageType& pageType : PvPageTypeList(PvXMLParser::attribute(entry, QStringLiteral("pageType"))))
+    for (const PvPageType& pageType : PvPageTypeList(PvXMLParser::attribute(attributes, QStringLiteral("pageType"))))
         rule.pageTypes.append(pageType.value());
     if (PvProductDiagnostics::listening() && !entry.hasAttribute(QStringLiteral("pageType")))
         PvProductDiagnostics::report(PvDiagnostic::Error, entry, QStringLiteral("a \"default\" without \"pageType\" applies to no page"));
     PvProductDiagnostics::checkEnum<PvPageType>(entry, QStringLiteral("pageType"), "page type");
     PvProductDiagnostics::checkEnum<PvPageAlignment>(entry, QStringLiteral("alignment"), "alignment");
-    const PvPageAlignment alignments = pvEnumAttribute(entry, QStringLiteral("alignment"), pvEveryAlignment());
+    const PvPageAlignment alignments = pvEnumAttribute(attributes, QStringLiteral("alignment"), pvEveryAlignment());
     rule.alignments = pvSplitBitsMask(alignments.value());
-    rule.pageNumber = PvXMLParser::intAttribute(entry, QStringLiteral("pageNr"), -1);
-    rule.scenePageCount = PvXMLParser::intAttribute(entry, QStringLiteral("scenePageCount"), -1);
 
     QString layoutDefault;
     QString backgroundDefault = houseBackground();
-    if (const std::optional<QString> templates = PvXMLAttribute::value(entry, QStringLiteral("templates"))) {
+    if (const std::optional<QString> templates = attributes.take(QStringLiteral("templates"))) {
         QVarLengthArray<QStringView, 4> parts;
         for (const QStringView part : QStringView(*templates).tokenize(u',', Qt::SkipEmptyParts))
             parts.append(part);
@@ -136,9 +136,11 @@ bool PvDefaultTemplateMap::applyDefault(const QDomElement& entry)
         if (!parts.isEmpty())
             backgroundDefault = parts.first().toString();
     }
-    rule.names[PvDefaultTemplateTypeLayout] = keptName(PvXMLParser::attribute(entry, QStringLiteral("layout"), layoutDefault).trimmed());
-    rule.names[PvDefaultTemplateTypeBackground] = keptName(PvXMLParser::attribute(entry, QStringLiteral("background"), backgroundDefault).trimmed());
-    rule.names[PvDefaultTemplateTypeDesign] = keptName(PvXMLParser::attribute(entry, QStringLiteral("design")));
+    rule.names[PvDefaultTemplateTypeLayout] = keptName(PvXMLParser::attribute(attributes, QStringLiteral("layout"), layoutDefault).trimmed());
+    rule.names[PvDefaultTemplateTypeBackground] = keptName(PvXMLParser::attribute(attributes, QStringLiteral("background"), backgroundDefault).trimmed());
+    rule.names[PvDefaultTemplateTypeDesign] = keptName(PvXMLParser::attribute(attributes, QStringLiteral("design")));
+    rule.pageNumber = PvXMLParser::intAttribute(attributes, QStringLiteral("pageNr"), -1);
+    rule.scenePageCount = PvXMLParser::intAttribute(attributes, QStringLiteral("scenePageCount"), -1);
 
     const qsizetype entries = rule.entryCount();
     if (entries == 0)

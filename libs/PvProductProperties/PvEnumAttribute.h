@@ -16,6 +16,14 @@ Wrapper pvEnumAttribute(const QDomElement& element, const QString& name, const W
     return text ? Wrapper(*text) : fallback;
 }
 
+//! pvEnumAttribute() of the element of \a attributes.
+template <typename Wrapper>
+Wrapper pvEnumAttribute(PvXMLAttributes& attributes, const QString& name, const Wrapper& fallback)
+{
+    const std::optional<QString> text = attributes.take(name);
+    return text ? Wrapper(*text) : fallback;
+}
+
 //! What a missing "alignment" stands for: "left,right,top,bottom,center,middle".
 inline const PvPageAlignment& pvEveryAlignment()
 {

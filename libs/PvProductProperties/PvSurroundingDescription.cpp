@@ -60,25 +60,28 @@ public:
 
 void PvSurroundingDescriptionImpl::readAttributes(const QDomElement& element)
 {
-    // Note the all-lower-case names among the camel-case ones: files spell them so.
+    // Note the all-lower-case names among the camel-case ones: files spell them so. A
+    // surrounding has a few of these: the likely ones are asked for first, and once all it
+    // has are found the others are known to be missing.
     static const PvSurroundingType book(QStringLiteral("book"));
     static const PvPageType all(QStringLiteral("all"));
-    surroundingType = pvEnumAttribute(element, QStringLiteral("type"), book);
-    pageType = pvEnumAttribute(element, QStringLiteral("pageType"), all);
-    alignment = pvEnumAttribute(element, QStringLiteral("alignment"), pvEveryAlignment());
-    pageNr = PvXMLParser::intAttribute(element, QStringLiteral("pageNr"), -1);
-    paintOnTop = PvXMLParser::boolAttribute(element, QStringLiteral("paintOnTop"), true);
-    canBeHiddenByUser = PvXMLParser::boolAttribute(element, QStringLiteral("canBeHiddenByUser"), false);
-    hideGrafikInPreview = PvXMLParser::boolAttribute(element, QStringLiteral("hideGrafikInPreview"), false);
-    image = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("image")));
-    imageSpotColor = PvValuePool::shared(PvXMLParser::attribute(element, QStringLiteral("imageSpotColor")));
-    editableArea = PvXMLParser::readRect(element);
-    hasBindingShade = PvXMLParser::boolAttribute(element, QStringLiteral("hasbindingshade"), false);
-    hasSpineFold = PvXMLParser::boolAttribute(element, QStringLiteral("hasspinefold"), false);
-    spineFoldWidth = PvXMLParser::intAttribute(element, QStringLiteral("spinefoldwidth"), 0);
-    variant = PvArticleVariants(PvXMLParser::attribute(element, QStringLiteral("variant")));
-    tileWidth = PvXMLParser::intAttribute(element, QStringLiteral("tileWidth"), -1);
-    tileHeight = PvXMLParser::intAttribute(element, QStringLiteral("tileHeight"), -1);
+    PvXMLAttributes attributes(element);
+    surroundingType = pvEnumAttribute(attributes, QStringLiteral("type"), book);
+    image = PvValuePool::shared(PvXMLParser::attribute(attributes, QStringLiteral("image")));
+    pageType = pvEnumAttribute(attributes, QStringLiteral("pageType"), all);
+    alignment = pvEnumAttribute(attributes, QStringLiteral("alignment"), pvEveryAlignment());
+    paintOnTop = PvXMLParser::boolAttribute(attributes, QStringLiteral("paintOnTop"), true);
+    variant = PvArticleVariants(PvXMLParser::attribute(attributes, QStringLiteral("variant")));
+    pageNr = PvXMLParser::intAttribute(attributes, QStringLiteral("pageNr"), -1);
+    editableArea = PvXMLParser::readRect(attributes);
+    hasBindingShade = PvXMLParser::boolAttribute(attributes, QStringLiteral("hasbindingshade"), false);
+    canBeHiddenByUser = PvXMLParser::boolAttribute(attributes, QStringLiteral("canBeHiddenByUser"), false);
+    hideGrafikInPreview = PvXMLParser::boolAttribute(attributes, QStringLiteral("hideGrafikInPreview"), false);
+    imageSpotColor = PvValuePool::shared(PvXMLParser::attribute(attributes, QStringLiteral("imageSpotColor")));
+    hasSpineFold = PvXMLParser::boolAttribute(attributes, QStringLiteral("hasspinefold"), false);
+    spineFoldWidth = PvXMLParser::intAttribute(attributes, QStringLiteral("spinefoldwidth"), 0);
+    tileWidth = PvXMLParser::intAttribute(attributes, QStringLiteral("tileWidth"), -1);
+    tileHeight = PvXMLParser::intAttribute(attributes, QStringLiteral("tileHeight"), -1);
 
     // A frame goes round every page, whatever the file restricts it to.
     if (surroundingType == PvSurroundingTypeFrame) {

@@ -8,6 +8,7 @@
 #include <QStringView>
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
 
@@ -65,9 +66,10 @@ bool lowerCaseEquals(QStringView text, QLatin1String word)
     return true;
 }
 
-std::optional<double> doubleOf(const QDomElement& element, const QString& name)
+// The readers below take the attribute's text, looked up by the caller one way or another,
+// and the element and name only to say what was wrong with it.
+std::optional<double> doubleOf(const QDomElement& element, const QString& name, const std::optional<QString>& text)
 {
-    const std::optional<QString> text = PvXMLAttribute::value(element, name);
     if (!text)
         return std::nullopt;
     const QStringView trimmed = QStringView(*text).trimmed();
@@ -80,18 +82,9 @@ std::optional<double> doubleOf(const QDomElement& element, const QString& name)
     return ok ? std::optional<double>(value) : std::nullopt;
 }
 
-bool hasAnyAttribute(const QDomElement& element, std::initializer_list<QString> names)
+std::optional<double> doubleOf(const QDomElement& element, const QString& name)
 {
-    for (const QString& name : names) {
-        if (element.hasAttribute(name))
-            return true;
-    }
-    return false;
-}
-
-double coordinate(const QDomElement& element, const QString& name)
-{
-    return doubleOf(element, name).value_or(0.0);
+    return doubleOf(element, name, PvXMLAttribute::value(element, name));
 }
 
 // Product files are data from outside: a coordinate beyond int or not finite must not overflow.
@@ -102,23 +95,57 @@ int clampedRound(double value)
     return qRound(std::clamp(value, double(INT_MIN), double(INT_MAX)));
 }
 
-int intCoordinate(const QDomElement& element, const QString& name)
+// Coordinates read together: the caller's default when none is there, else 0 for a missing one.
+template <std::size_t N>
+class Coordinates
 {
-    return clampedRound(coordinate(element, name));
-}
+public:
+    template <typename Lookup>
+    Coordinates(const QDomElement& element, const std::array<QString, N>& names, Lookup lookup)
+        : m_element(element)
+        , m_names(names)
+    {
+        for (std::size_t i = 0; i < N; ++i) {
+            m_texts[i] = lookup(names[i]);
+            m_any = m_any || m_texts[i].has_value();
+        }
+    }
+    [[nodiscard]] bool any() const { return m_any; }
+    [[nodiscard]] double at(std::size_t i) const { return doubleOf(m_element, m_names[i], m_texts[i]).value_or(0.0); }
+    [[nodiscard]] int intAt(std::size_t i) const { return clampedRound(at(i)); }
+
+private:
+    const QDomElement& m_element;
+    const std::array<QString, N>& m_names;
+    std::array<std::optional<QString>, N> m_texts;
+    bool m_any = false;
+};
+
+const std::array<QString, 4>& rectNames()
+{
+    static const std::array<QString, 4> names { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height") };
+    return names;
 }
 
-QString PvXMLParser::attribute(const QDomElement& element, const QString& name, const QString& defaultValue, bool trim)
+auto lookupIn(const QDomElement& element)
 {
-    const std::optional<QString> text = PvXMLAttribute::value(element, name);
+    return [&element](const QString& name) { return PvXMLAttribute::value(element, name); };
+}
+
+auto takeFrom(PvXMLAttributes& attributes)
+{
+    return [&attributes](const QString& name) { return attributes.take(name); };
+}
+
+QString textOf(const std::optional<QString>& text, const QString& defaultValue, bool trim)
+{
     if (!text)
         return defaultValue;
     return trim ? text->trimmed() : *text;
 }
 
-bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name, bool defaultValue)
+bool boolOf(const QDomElement& element, const QString& name, const std::optional<QString>& value, bool defaultValue)
 {
-    const std::optional<QString> value = PvXMLAttribute::value(element, name);
     if (!value)
         return defaultValue;
     const QStringView text = QStringView(*value).trimmed();
@@ -131,9 +158,8 @@ bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name,
     return defaultValue;
 }
 
-int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, int defaultValue)
+int intOf(const QDomElement& element, const QString& name, const std::optional<QString>& text, int defaultValue)
 {
-    const std::optional<QString> text = PvXMLAttribute::value(element, name);
     if (!text)
         return defaultValue;
     bool ok = false;
@@ -141,6 +167,42 @@ int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, i
     if (!ok)
         reportDefault(element, name, QStringLiteral("a whole number"));
     return ok ? value : defaultValue;
+}
+
+QRect rectOf(const Coordinates<4>& read, const QRect& defaultValue)
+{
+    return read.any() ? QRect(read.intAt(0), read.intAt(1), read.intAt(2), read.intAt(3)) : defaultValue;
+}
+}
+
+QString PvXMLParser::attribute(const QDomElement& element, const QString& name, const QString& defaultValue, bool trim)
+{
+    return textOf(PvXMLAttribute::value(element, name), defaultValue, trim);
+}
+
+QString PvXMLParser::attribute(PvXMLAttributes& attributes, const QString& name, const QString& defaultValue, bool trim)
+{
+    return textOf(attributes.take(name), defaultValue, trim);
+}
+
+bool PvXMLParser::boolAttribute(const QDomElement& element, const QString& name, bool defaultValue)
+{
+    return boolOf(element, name, PvXMLAttribute::value(element, name), defaultValue);
+}
+
+bool PvXMLParser::boolAttribute(PvXMLAttributes& attributes, const QString& name, bool defaultValue)
+{
+    return boolOf(attributes.element(), name, attributes.take(name), defaultValue);
+}
+
+int PvXMLParser::intAttribute(const QDomElement& element, const QString& name, int defaultValue)
+{
+    return intOf(element, name, PvXMLAttribute::value(element, name), defaultValue);
+}
+
+int PvXMLParser::intAttribute(PvXMLAttributes& attributes, const QString& name, int defaultValue)
+{
+    return intOf(attributes.element(), name, attributes.take(name), defaultValue);
 }
 
 double PvXMLParser::doubleAttribute(const QDomElement& element, const QString& name, double defaultValue)
@@ -163,30 +225,32 @@ PvDistance PvXMLParser::readDistance(const QDomElement& element, const QString& 
 
 QRect PvXMLParser::readRect(const QDomElement& element, const QRect& defaultValue)
 {
-    if (!hasAnyAttribute(element, { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height") }))
-        return defaultValue;
-    return QRect(intCoordinate(element, QStringLiteral("x")), intCoordinate(element, QStringLiteral("y")), intCoordinate(element, QStringLiteral("width")), intCoordinate(element, QStringLiteral("height")));
+    return rectOf(Coordinates<4>(element, rectNames(), lookupIn(element)), defaultValue);
+}
+
+QRect PvXMLParser::readRect(PvXMLAttributes& attributes, const QRect& defaultValue)
+{
+    return rectOf(Coordinates<4>(attributes.element(), rectNames(), takeFrom(attributes)), defaultValue);
 }
 
 QRectF PvXMLParser::readRectF(const QDomElement& element, const QRectF& defaultValue)
 {
-    if (!hasAnyAttribute(element, { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("width"), QStringLiteral("height") }))
-        return defaultValue;
-    return QRectF(coordinate(element, QStringLiteral("x")), coordinate(element, QStringLiteral("y")), coordinate(element, QStringLiteral("width")), coordinate(element, QStringLiteral("height")));
+    const Coordinates<4> read(element, rectNames(), lookupIn(element));
+    return read.any() ? QRectF(read.at(0), read.at(1), read.at(2), read.at(3)) : defaultValue;
 }
 
 QSize PvXMLParser::readSize(const QDomElement& element, const QSize& defaultValue)
 {
-    if (!hasAnyAttribute(element, { QStringLiteral("width"), QStringLiteral("height") }))
-        return defaultValue;
-    return QSize(intCoordinate(element, QStringLiteral("width")), intCoordinate(element, QStringLiteral("height")));
+    static const std::array<QString, 2> names { QStringLiteral("width"), QStringLiteral("height") };
+    const Coordinates<2> read(element, names, lookupIn(element));
+    return read.any() ? QSize(read.intAt(0), read.intAt(1)) : defaultValue;
 }
 
 QVector3D PvXMLParser::readVector3D(const QDomElement& element, const QVector3D& defaultValue)
 {
-    if (!hasAnyAttribute(element, { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z") }))
-        return defaultValue;
-    return QVector3D(float(coordinate(element, QStringLiteral("x"))), float(coordinate(element, QStringLiteral("y"))), float(coordinate(element, QStringLiteral("z"))));
+    static const std::array<QString, 3> names { QStringLiteral("x"), QStringLiteral("y"), QStringLiteral("z") };
+    const Coordinates<3> read(element, names, lookupIn(element));
+    return read.any() ? QVector3D(float(read.at(0)), float(read.at(1)), float(read.at(2))) : defaultValue;
 }
 
 int PvXMLParser::intText(const QDomElement& element, const QString& childName, int defaultValue)

@@ -94,10 +94,12 @@ PvJigEditorAbilities::PvJigEditorAbilities()
 
 PvJigEditorAbilities::PvJigEditorAbilities(const QDomElement& element)
 {
-    const bool enabled = PvXMLParser::boolAttribute(element, QStringLiteral("enabled"), true);
-    const bool rotatable = PvXMLParser::boolAttribute(element, QStringLiteral("rotatable"), false);
-    const bool fullOnEachPage = PvXMLParser::boolAttribute(element, QStringLiteral("fullOnEachPage"), true);
-    const bool requiresExactArticle = PvXMLParser::boolAttribute(element, QStringLiteral("exactArticle"), false);
+    // Most jigs set one or two of the four flags.
+    PvXMLAttributes attributes(element);
+    const bool enabled = PvXMLParser::boolAttribute(attributes, QStringLiteral("enabled"), true);
+    const bool rotatable = PvXMLParser::boolAttribute(attributes, QStringLiteral("rotatable"), false);
+    const bool fullOnEachPage = PvXMLParser::boolAttribute(attributes, QStringLiteral("fullOnEachPage"), true);
+    const bool requiresExactArticle = PvXMLParser::boolAttribute(attributes, QStringLiteral("exactArticle"), false);
     d = plainAbilities(enabled, rotatable, fullOnEachPage, requiresExactArticle);
     const QString tag = QStringLiteral("categories");
     for (const QDomElement child : PvXMLChildElements(element, tag)) {

@@ -30,9 +30,10 @@ public:
      */
     [[nodiscard]] QHash<PvProductType, PvProductTypeDescription*> readDir() const;
     /*!
-     * The descriptions readDir() answers, listed in the order of the files that first
-     * declared their product types. A caller that walks them all takes this: readDir()'s hash
-     * has room for 100000 entries, and walking it costs as much as walking that many.
+     * The descriptions readDir() answers, owned by the caller as well, listed in the order of
+     * the files that first declared their product types. A caller that walks them all takes
+     * this: readDir()'s hash has room for 100000 entries, and walking it costs as much as
+     * walking that many.
      */
     [[nodiscard]] QList<PvProductTypeDescription*> readDescriptions() const;
     /*!

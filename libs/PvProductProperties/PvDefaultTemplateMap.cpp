@@ -45,12 +45,6 @@ PvDefaultTemplateMap::PvDefaultTemplateMap(const QDomElement& defaults)
 void PvDefaultTemplateMap::applyDefaultsNode(const QDomElement& defaults)
 {
     const QString tag = QStringLiteral("default");
-    // Counted first: the rules are kept, and a list grown one by one would be moved and
-    // squeezed a few times. A rule makes three entries at least, which bounds how many fit.
-    qsizetype count = 0;
-    for ([[maybe_unused]] const QDomElement entry : PvXMLChildElements(defaults, tag))
-        ++count;
-    m_rules.reserve(qMin(count, maximumEntries / 3));
     QDomElement firstSkipped;
     for (const QDomElement entry : PvXMLChildElements(defaults, tag)) {
         if (!applyDefault(entry) && firstSkipped.isNull())

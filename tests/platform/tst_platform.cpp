@@ -176,17 +176,13 @@ void TestPlatform::intAttribute()
 void TestPlatform::numbers_data()
 {
     QTest::addColumn<QString>("text");
-    // Short plain numbers take a path of their own; they must read as Qt reads them.
-    for (const char* text : { "3.5", "-0.25", "0.1", "0.3", "1.7", "+4.75", " 2.5 ", "123456.789", "99999999999999.9", "0.000000000000001",
-                              "-0.0", "-0", "0007" })
+    // Short plain numbers take a path of their own; they must read as Qt reads them: rounding
+    // ("0.3"), the sign of zero, the longest and the first too long, and forms left to Qt.
+    for (const char* text : { "3.5", "0.3", "-0.0", " 2.5 ", "99999999999999.9", "1234567890123456.5", "1.", ".5", "1e3", "1.2.3", "" })
         QTest::newRow(text) << QString::fromLatin1(text);
-    for (const char* text : { "1.", ".5", "-.5", "1e3", "1234567890123456.5", "0.30000000000000004", "1.2.3", "1,5", "--1", "+", "" })
-        QTest::newRow(text) << QString::fromLatin1(text);
-    QTest::newRow("list") << "1,2,3";
     QTest::newRow("list with blanks") << " 1, 2 ,\t3 ";
     QTest::newRow("list with holes and junk") << "1,,x,1.5,4";
     QTest::newRow("list beyond int") << "2147483648,-2147483648,2147483647";
-    QTest::newRow("blank inside a number") << "1 2,3";
 }
 
 void TestPlatform::numbers()
